@@ -1,0 +1,147 @@
+#include "rw/bstream.h"
+
+#include "rw/endian.h"
+
+#include <cstdint>
+#include <istream>
+#include <ostream>
+#include <type_traits>
+
+namespace {
+
+// The stored width of each scalar on the original platform.
+template <class T>
+struct Wire;
+template <> struct Wire<char> { using type = std::int8_t; };
+template <> struct Wire<signed char> { using type = std::int8_t; };
+template <> struct Wire<unsigned char> { using type = std::uint8_t; };
+template <> struct Wire<wchar_t> { using type = std::uint16_t; };
+template <> struct Wire<short> { using type = std::int16_t; };
+template <> struct Wire<unsigned short> { using type = std::uint16_t; };
+template <> struct Wire<int> { using type = std::int32_t; };
+template <> struct Wire<unsigned int> { using type = std::uint32_t; };
+template <> struct Wire<long> { using type = std::int32_t; };
+template <> struct Wire<unsigned long> { using type = std::uint32_t; };
+template <> struct Wire<float> { using type = float; };
+template <> struct Wire<double> { using type = double; };
+
+constexpr size_t kChunk = 64 * 1024;
+
+} // namespace
+
+// ---- RWbostream
+
+RWbostream::RWbostream(std::ostream& s) : sb_(s.rdbuf()), os_(&s) {
+    if (!sb_) setstate(badbit);
+}
+RWbostream::RWbostream(std::streambuf* sb) : sb_(sb) {
+    if (!sb_) setstate(badbit);
+}
+
+void RWbostream::write(const void* p, size_t n) {
+    if (!good()) return;
+    if (static_cast<size_t>(sb_->sputn(static_cast<const char*>(p), static_cast<std::streamsize>(n))) != n) {
+        setstate(failbit | badbit);
+        if (os_) os_->setstate(std::ios::badbit);
+    }
+}
+
+#define X(T)                                                                                                \
+    RWvostream& RWbostream::operator<<(T v) {                                                               \
+        using W = Wire<T>::type;                                                                            \
+        unsigned char b[sizeof(W)];                                                                         \
+        rwwire::store<W>(b, static_cast<W>(v));                                                             \
+        write(b, sizeof b);                                                                                 \
+        return *this;                                                                                       \
+    }                                                                                                       \
+    RWvostream& RWbostream::put(const T* p, size_t n) {                                                     \
+        for (size_t i = 0; i < n; ++i) *this << p[i];                                                       \
+        return *this;                                                                                       \
+    }
+RW_VSTREAM_SCALARS(X)
+#undef X
+
+RWvostream& RWbostream::operator<<(const char* s) {
+    s = s ? s : "";
+    return putString(s, std::char_traits<char>::length(s));
+}
+
+RWvostream& RWbostream::putString(const char* s, size_t n) {
+    *this << static_cast<unsigned int>(n);
+    write(s, n);
+    return *this;
+}
+
+RWvostream& RWbostream::flush() {
+    if (sb_ && sb_->pubsync() != 0) setstate(badbit);
+    return *this;
+}
+
+// ---- RWbistream
+
+RWbistream::RWbistream(std::istream& s) : sb_(s.rdbuf()), is_(&s) {
+    if (!sb_) setstate(badbit);
+}
+RWbistream::RWbistream(std::streambuf* sb) : sb_(sb) {
+    if (!sb_) setstate(badbit);
+}
+
+bool RWbistream::read(void* p, size_t n) {
+    if (!good()) return false;
+    if (static_cast<size_t>(sb_->sgetn(static_cast<char*>(p), static_cast<std::streamsize>(n))) != n) {
+        setstate(failbit | eofbit);
+        if (is_) is_->setstate(std::ios::failbit | std::ios::eofbit);
+        return false;
+    }
+    return true;
+}
+
+int RWbistream::get() {
+    unsigned char c;
+    return read(&c, 1) ? c : std::char_traits<char>::eof();
+}
+
+#define X(T)                                                                                                \
+    RWvistream& RWbistream::operator>>(T& v) {                                                              \
+        using W = Wire<T>::type;                                                                            \
+        unsigned char b[sizeof(W)];                                                                         \
+        if (read(b, sizeof b)) v = static_cast<T>(rwwire::load<W>(b));                                     \
+        return *this;                                                                                       \
+    }                                                                                                       \
+    RWvistream& RWbistream::get(T* p, size_t n) {                                                           \
+        for (size_t i = 0; i < n && good(); ++i) *this >> p[i];                                             \
+        return *this;                                                                                       \
+    }
+RW_VSTREAM_SCALARS(X)
+#undef X
+
+RWvistream& RWbistream::getString(char* s, size_t maxlen) {
+    unsigned int n = 0;
+    *this >> n;
+    if (!good()) return *this;
+    if (maxlen == 0 || n > maxlen - 1) {
+        setstate(failbit);
+        return *this;
+    }
+    if (read(s, n)) s[n] = '\0';
+    return *this;
+}
+
+RWvistream& RWbistream::getString(std::string& s, size_t n) {
+    unsigned int stored = 0;
+    *this >> stored;
+    if (!good()) return *this;
+    if (stored != n) { // the two lengths of one string disagree: the stream is out of step
+        setstate(failbit);
+        return *this;
+    }
+    std::string value;
+    while (value.size() < n && good()) {
+        size_t chunk = std::min(kChunk, n - value.size());
+        size_t at = value.size();
+        value.resize(at + chunk);
+        read(value.data() + at, chunk);
+    }
+    if (good()) s.swap(value);
+    return *this;
+}

@@ -1,0 +1,130 @@
+// RWFile: a binary file with the byte widths of the original 32-bit little-endian platform on any host.
+//
+//   char, unsigned char        1 byte
+//   short, unsigned short      2 bytes
+//   int, unsigned, wchar_t     4 / 4 / 2 bytes
+//   long, unsigned long        4 bytes: a long is narrowed on write and sign-extended on read,
+//                              an unsigned long zero-extended
+//   float, double              4 / 8 bytes, IEEE
+//
+// All little-endian, no tags, no padding. Writes and reads go through a buffer of the object's own, so a
+// record written field by field costs no system call per field.
+#pragma once
+
+#include "rw/defs.h"
+
+#include <string>
+#include <vector>
+
+class RWFile {
+public:
+    // mode as for fopen; with no mode, open an existing file for update or else create it.
+    RWFile(const char* name, const char* mode = 0);
+    ~RWFile();
+    RWFile(const RWFile&) = delete;
+    RWFile& operator=(const RWFile&) = delete;
+
+    const char* GetName() const { return name_.c_str(); }
+    RWBoolean isValid() const { return fd_ >= 0; }
+    RWBoolean Exists() const;
+    static RWBoolean Exists(const char* name);
+    RWBoolean IsEmpty();
+
+    RWBoolean good() const { return isValid() && !eof_ && !error_; }
+    RWBoolean eof() const { return eof_; }
+    RWBoolean Eof() const { return eof_; }
+    RWBoolean Error() const { return error_; }
+    void ClearErr() { eof_ = error_ = false; }
+
+    long CurOffset() const;
+    RWBoolean SeekTo(long offset);
+    RWBoolean SeekToBegin() { return SeekTo(0); }
+    RWBoolean SeekToEnd();
+    RWBoolean Flush();
+    // Empties the file; it stays open for update.
+    RWBoolean Erase();
+
+    RWBoolean Read(char& v) { return readRaw(&v, 1); }
+    RWBoolean Read(signed char& v) { return readRaw(&v, 1); }
+    RWBoolean Read(unsigned char& v) { return readRaw(&v, 1); }
+    RWBoolean Read(bool& v);
+    RWBoolean Read(wchar_t& v);
+    RWBoolean Read(short& v);
+    RWBoolean Read(unsigned short& v);
+    RWBoolean Read(int& v);
+    RWBoolean Read(unsigned int& v);
+    RWBoolean Read(long& v);
+    RWBoolean Read(unsigned long& v);
+    RWBoolean Read(float& v);
+    RWBoolean Read(double& v);
+    RWBoolean Read(char* v, size_t n) { return readRaw(v, n); }
+    RWBoolean Read(unsigned char* v, size_t n) { return readRaw(v, n); }
+    RWBoolean Read(short* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(unsigned short* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(int* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(unsigned int* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(long* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(unsigned long* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(float* v, size_t n) { return readArray(v, n); }
+    RWBoolean Read(double* v, size_t n) { return readArray(v, n); }
+    // Reads n bytes into s. If the file cannot hold n more bytes, the file fails and s stays unchanged:
+    // no allocation is made from a stored length that the file does not back.
+    RWBoolean ReadString(std::string& s, size_t n);
+
+    RWBoolean Write(char v) { return writeRaw(&v, 1); }
+    RWBoolean Write(signed char v) { return writeRaw(&v, 1); }
+    RWBoolean Write(unsigned char v) { return writeRaw(&v, 1); }
+    RWBoolean Write(bool v) { return Write(static_cast<char>(v)); }
+    RWBoolean Write(wchar_t v);
+    RWBoolean Write(short v);
+    RWBoolean Write(unsigned short v);
+    RWBoolean Write(int v);
+    RWBoolean Write(unsigned int v);
+    RWBoolean Write(long v);
+    RWBoolean Write(unsigned long v);
+    RWBoolean Write(float v);
+    RWBoolean Write(double v);
+    // The characters and the terminating NUL.
+    RWBoolean Write(const char* s);
+    RWBoolean Write(const char* v, size_t n) { return writeRaw(v, n); }
+    RWBoolean Write(const unsigned char* v, size_t n) { return writeRaw(v, n); }
+    RWBoolean Write(const short* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const unsigned short* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const int* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const unsigned int* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const long* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const unsigned long* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const float* v, size_t n) { return writeArray(v, n); }
+    RWBoolean Write(const double* v, size_t n) { return writeArray(v, n); }
+
+private:
+    template <class T>
+    RWBoolean readArray(T* v, size_t n) {
+        for (size_t i = 0; i < n; ++i)
+            if (!Read(v[i])) return false;
+        return true;
+    }
+    template <class T>
+    RWBoolean writeArray(const T* v, size_t n) {
+        for (size_t i = 0; i < n; ++i)
+            if (!Write(v[i])) return false;
+        return true;
+    }
+    RWBoolean readRaw(void* out, size_t n);
+    RWBoolean writeRaw(const void* in, size_t n);
+    bool flushWrites();
+    void dropReadAhead();
+    long long remainingBytes();
+
+    std::string name_;
+    int fd_ = -1;
+    bool eof_ = false;
+    bool error_ = false;
+    bool append_ = false;
+    // One buffer serves either pending writes or read-ahead, never both.
+    std::vector<unsigned char> buf_;
+    size_t writeLen_ = 0;         // pending bytes in buf_[0, writeLen_)
+    size_t readPos_ = 0;          // read-ahead in buf_[readPos_, readEnd_)
+    size_t readEnd_ = 0;
+    long long offset_ = 0;        // the logical position of the next read or write
+};
