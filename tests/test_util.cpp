@@ -1,0 +1,5 @@
+#include "test_util.h"
+
+#include <unistd.h>
+
+int qbtest::TempFile::processId() { return static_cast<int>(::getpid()); }
