@@ -7,10 +7,6 @@
 
 #include <iosfwd>
 
-#define RW_VSTREAM_SCALARS(X)                                                                               \
-    X(char) X(signed char) X(unsigned char) X(wchar_t) X(short) X(unsigned short) X(int) X(unsigned int)  \
-        X(long) X(unsigned long) X(float) X(double)
-
 class RWbostream : public RWvostream {
 public:
     explicit RWbostream(std::ostream& s);

@@ -18,7 +18,8 @@ public:
 
     // The locale used when none is given: at first a snapshot of the "C" locale.
     static const RWLocale& global();
-    // Installs a new global locale (not owned) and returns the previous one.
+    // Installs a new global locale (not owned; it must outlive its use) and returns the previous one.
+    // A null pointer puts the "C" snapshot back.
     static const RWLocale* global(const RWLocale* locale);
 };
 
@@ -32,9 +33,16 @@ public:
     RWCString monthName(unsigned month, RWBoolean abbreviated = false) const override;
     RWBoolean stringToDate(const RWCString& text, struct tm* out) const override;
 
+    // Further spellings a month name has in use (German "Mrz" for March); ends with a null name.
+    struct MonthAlias {
+        const char* name;
+        int month;
+    };
+
 private:
     enum Order { DayMonthYear, MonthDayYear };
     Order order_;
     const char* const* monthNames_;
     const char* const* monthAbbreviations_;
+    const MonthAlias* monthAliases_;
 };

@@ -25,6 +25,8 @@ public:
     unsigned long julian() const { return julian_; }
     void julian(unsigned long julianDay) { julian_ = julianDay; }
     RWBoolean isValid() const { return julian_ > 0; }
+    // The invalid date gives 0 for each of these. Any other day number gives its proleptic Gregorian date;
+    // a year outside 1..UINT_MAX (day numbers before AD 1 or beyond) wraps modulo 2^32.
     unsigned dayOfMonth() const;
     unsigned day() const; // day of the year, 1..366
     unsigned month() const;
@@ -32,18 +34,32 @@ public:
     unsigned weekDay() const; // 1 = Monday .. 7 = Sunday
 
     // %d day (2 digits), %m month (2 digits), %Y year (4 digits), %y year modulo 100 (2 digits), %% a
-    // percent sign; other characters are copied. The invalid date gives the empty text.
+    // percent sign, %B / %b the locale's full / abbreviated month name; other characters are copied.
+    // The invalid date gives the empty text.
     RWCString asString(const char* format, const RWLocale& locale = RWLocale::global()) const;
 
+    // The Gregorian rules for the year as given (no 1900 is added here). A month outside 1..12 has 0 days.
     static unsigned daysInMonthYear(unsigned month, unsigned year);
     static unsigned daysInYear(unsigned year);
     static RWBoolean leapYear(unsigned year);
     static RWBoolean dayWithinMonth(unsigned month, unsigned day, unsigned year);
 
-    RWDate& operator+=(unsigned long days) { julian_ += days; return *this; }
-    RWDate& operator-=(unsigned long days) { julian_ -= days; return *this; }
-    RWDate& operator++() { ++julian_; return *this; }
-    RWDate& operator--() { --julian_; return *this; }
+    RWDate& operator+=(unsigned long days) {
+        julian_ += days;
+        return *this;
+    }
+    RWDate& operator-=(unsigned long days) {
+        julian_ -= days;
+        return *this;
+    }
+    RWDate& operator++() {
+        ++julian_;
+        return *this;
+    }
+    RWDate& operator--() {
+        --julian_;
+        return *this;
+    }
     friend RWDate operator+(const RWDate& d, unsigned long days) { return fromJulian(d.julian_ + days); }
     friend RWDate operator-(const RWDate& d, unsigned long days) { return fromJulian(d.julian_ - days); }
     friend unsigned long operator-(const RWDate& a, const RWDate& b) { return a.julian_ - b.julian_; }
