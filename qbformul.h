@@ -8,6 +8,7 @@
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 #include "rw/bstream.h"
+#include "rw/pstream.h"
 #include "rw/collect.h"
 #include "rw/rwstore.h"
 #include "rw/factory.h"
@@ -17,3 +18,28 @@
 #include "rw/rwerr.h"
 #include "rw/toolerr.h"
 #include "rw/message.h"
+#include "rw/locale.h"
+#include "rw/rwdate.h"
+
+// qbAllg, qbNLDat, Windows
+#include "qballg/cp1252.h"
+#include "qballg/CQBXMLdata.h"
+#include "qballg/QBvar.h"
+#include "qballg/qbAllgFunktionen.h"
+#include "qballg/qbPerson.h"
+#include "nldat/qbNldUserID.h"
+#include <windows.h>
+
+// The form core
+#include "core/qbFormular.h"
+#include "core/qbFormularListe.h"
+
+// Health declarations
+#include "health/qbFormularAllgGesu.h"
+#include "health/qbFormularL144.h"
+#include "health/qbFormularL145.h"
+#include "health/qbFormularL146.h"
+#include "health/qbFormularL147.h"
+
+// Sport and stay-abroad declarations
+#include "sport/qbFormularL440.h"

@@ -1,0 +1,330 @@
+#include "core/qbFeld.h"
+
+#include "core/qbFormular.h"
+#include "core/qbLeseBeobachter.h"
+#include "qballg/CQBXMLdata.h"
+#include "rw/rwfile.h"
+#include "rw/vstream.h"
+
+#include <cstring>
+#include <string>
+#include <type_traits>
+
+
+const qbFeld* qbFeldTabelle::suche(const char* name) const {
+    for (const qbFeld& z : *this)
+        if (std::strcmp(z.name, name) == 0) return &z;
+    return nullptr;
+}
+
+void qbFeldTabelle::setzeStandard(qbFormular& form) const {
+    for (const qbFeld& z : *this) {
+        switch (z.art) {
+        case qbArt::Text: form.*z.mitglied.text = z.standardText; break;
+        case qbArt::Flag: form.*z.mitglied.flag = static_cast<unsigned char>(z.standardGanz); break;
+        case qbArt::Char: form.*z.mitglied.zeichen = static_cast<char>(z.standardGanz); break;
+        case qbArt::Bool: form.*z.mitglied.wahrheit = z.standardGanz != 0; break;
+        case qbArt::Int:
+        case qbArt::Enum: form.*z.mitglied.ganz = static_cast<int>(z.standardGanz); break;
+        case qbArt::Long: form.*z.mitglied.lang = z.standardGanz; break;
+        case qbArt::Double: form.*z.mitglied.zahl = z.standardZahl; break;
+        case qbArt::Date: form.*z.mitglied.datum = RWDate::fromJulian(0); break;
+        case qbArt::Person: (form.*z.mitglied.person).loesche(); break;
+        }
+    }
+}
+
+void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
+    for (const qbFeld& z : *this) {
+        switch (z.art) {
+        case qbArt::Text: ziel.*z.mitglied.text = quelle.*z.mitglied.text; break;
+        case qbArt::Flag: ziel.*z.mitglied.flag = quelle.*z.mitglied.flag; break;
+        case qbArt::Char: ziel.*z.mitglied.zeichen = quelle.*z.mitglied.zeichen; break;
+        case qbArt::Bool: ziel.*z.mitglied.wahrheit = quelle.*z.mitglied.wahrheit; break;
+        case qbArt::Int:
+        case qbArt::Enum: ziel.*z.mitglied.ganz = quelle.*z.mitglied.ganz; break;
+        case qbArt::Long: ziel.*z.mitglied.lang = quelle.*z.mitglied.lang; break;
+        case qbArt::Double: ziel.*z.mitglied.zahl = quelle.*z.mitglied.zahl; break;
+        case qbArt::Date: ziel.*z.mitglied.datum = quelle.*z.mitglied.datum; break;
+        case qbArt::Person: ziel.*z.mitglied.person = quelle.*z.mitglied.person; break;
+        }
+    }
+}
+
+// ---- Streams
+
+void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const {
+    for (const qbFeld& z : *this) {
+        switch (z.art) {
+        case qbArt::Text: (form.*z.mitglied.text).saveOn(f); break;
+        case qbArt::Flag: f.Write(form.*z.mitglied.flag); break;
+        case qbArt::Char: f.Write(form.*z.mitglied.zeichen); break;
+        case qbArt::Bool: f.Write(static_cast<char>(form.*z.mitglied.wahrheit)); break;
+        case qbArt::Int: f.Write(form.*z.mitglied.ganz); break;
+        case qbArt::Enum: f.Write(static_cast<char>(form.*z.mitglied.ganz)); break;
+        case qbArt::Long: f.Write(form.*z.mitglied.lang); break;
+        case qbArt::Double: f.Write(form.*z.mitglied.zahl); break;
+        case qbArt::Date: (form.*z.mitglied.datum).saveOn(f); break;
+        case qbArt::Person: f << form.*z.mitglied.person; break;
+        }
+    }
+}
+
+namespace {
+
+thread_local qbLeseBeobachter* beobachter = nullptr;
+
+// A value as text, for the observer.
+template <class T>
+std::string alsText(const T& v) {
+    if constexpr (std::is_same_v<T, RWCString>) return v.std();
+    else if constexpr (std::is_same_v<T, RWDate>) return std::to_string(v.julian());
+    else if constexpr (std::is_same_v<T, qbPerson>) return v.RefAdressDaten().RefName().std();
+    else if constexpr (std::is_same_v<T, char>) return std::to_string(static_cast<int>(v));
+    else return std::to_string(v);
+}
+
+// The member of a row, or a scratch value when the value is thrown away.
+template <class T>
+T& ziel(qbFormular* form, T qbFormular::*m, T& scratch) {
+    return form ? form->*m : scratch;
+}
+
+} // namespace
+
+qbLeseBeobachter* qbSetzeLeseBeobachter(qbLeseBeobachter* b) {
+    qbLeseBeobachter* alt = beobachter;
+    beobachter = b;
+    return alt;
+}
+
+qbLeseBeobachter* qbAktuellerLeseBeobachter() { return beobachter; }
+
+void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWFile& f) {
+    const long von = f.CurOffset();
+    std::string wert;
+    auto melde = [&](const auto& v) {
+        if (beobachter) wert = alsText(v);
+    };
+    switch (z.art) {
+    case qbArt::Text: {
+        RWCString scratch;
+        RWCString& t = ziel(form, z.mitglied.text, scratch);
+        t.restoreFrom(f);
+        melde(t);
+        break;
+    }
+    case qbArt::Flag: {
+        unsigned char scratch = 0;
+        unsigned char& v = ziel(form, z.mitglied.flag, scratch);
+        f.Read(v);
+        melde(v);
+        break;
+    }
+    case qbArt::Char: {
+        char scratch = 0;
+        char& v = ziel(form, z.mitglied.zeichen, scratch);
+        f.Read(v);
+        melde(v);
+        break;
+    }
+    case qbArt::Bool: {
+        bool scratch = false;
+        bool& v = ziel(form, z.mitglied.wahrheit, scratch);
+        char c;
+        if (f.Read(c)) v = c == 1; // only the byte 1 is true
+        melde(v);
+        break;
+    }
+    case qbArt::Int: {
+        int scratch = 0;
+        int& v = ziel(form, z.mitglied.ganz, scratch);
+        f.Read(v);
+        melde(v);
+        break;
+    }
+    case qbArt::Enum: {
+        int scratch = 0;
+        int& v = ziel(form, z.mitglied.ganz, scratch);
+        char c;
+        if (f.Read(c)) v = static_cast<signed char>(c);
+        melde(v);
+        break;
+    }
+    case qbArt::Long: {
+        long scratch = 0;
+        long& v = ziel(form, z.mitglied.lang, scratch);
+        f.Read(v);
+        melde(v);
+        break;
+    }
+    case qbArt::Double: {
+        double scratch = 0;
+        double& v = ziel(form, z.mitglied.zahl, scratch);
+        f.Read(v);
+        melde(v);
+        break;
+    }
+    case qbArt::Date: {
+        RWDate scratch;
+        RWDate& v = ziel(form, z.mitglied.datum, scratch);
+        v.restoreFrom(f);
+        melde(v);
+        break;
+    }
+    case qbArt::Person: {
+        qbPerson scratch;
+        qbPerson& v = ziel(form, z.mitglied.person, scratch);
+        f >> v;
+        melde(v);
+        break;
+    }
+    }
+    if (beobachter) beobachter->feld(form ? z.name : nullptr, z.art, von, f.CurOffset(), wert);
+}
+
+void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) {
+    if (!s.good()) return; // values of a failed stream are not read into the form
+    switch (z.art) {
+    case qbArt::Text: {
+        RWCString scratch;
+        ziel(form, z.mitglied.text, scratch).restoreFrom(s);
+        break;
+    }
+    case qbArt::Flag: {
+        unsigned char scratch = 0;
+        s >> ziel(form, z.mitglied.flag, scratch);
+        break;
+    }
+    case qbArt::Char: {
+        char scratch = 0;
+        s >> ziel(form, z.mitglied.zeichen, scratch);
+        break;
+    }
+    case qbArt::Bool: {
+        bool scratch = false;
+        char c = 0;
+        s >> c;
+        if (s.good()) ziel(form, z.mitglied.wahrheit, scratch) = c == 1;
+        break;
+    }
+    case qbArt::Int: {
+        int scratch = 0;
+        s >> ziel(form, z.mitglied.ganz, scratch);
+        break;
+    }
+    case qbArt::Enum: {
+        int scratch = 0;
+        char c = 0;
+        s >> c;
+        if (s.good()) ziel(form, z.mitglied.ganz, scratch) = static_cast<signed char>(c);
+        break;
+    }
+    case qbArt::Long: {
+        long scratch = 0;
+        s >> ziel(form, z.mitglied.lang, scratch);
+        break;
+    }
+    case qbArt::Double: {
+        double scratch = 0;
+        s >> ziel(form, z.mitglied.zahl, scratch);
+        break;
+    }
+    case qbArt::Date:
+    case qbArt::Person: break; // never on a virtual stream
+    }
+}
+
+// A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
+// the Version read just before it.
+static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
+    if (z.liesAbSchluessel == 0 && !z.liesWenn) return true;
+    return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()));
+}
+
+void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
+    for (const qbFeld& z : *this)
+        if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
+}
+
+void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
+    for (const qbFeld& z : *this)
+        if (gehoertZumLayout(z, form)) liesZeile(z, &form, s);
+}
+
+// Date and Person have no virtual-stream form: the classes that hold them never send them there.
+void qbFeldTabelle::schreibe(const qbFormular& form, RWvostream& s) const {
+    for (const qbFeld& z : *this) {
+        switch (z.art) {
+        case qbArt::Text: (form.*z.mitglied.text).saveOn(s); break;
+        case qbArt::Flag: s << form.*z.mitglied.flag; break;
+        case qbArt::Char: s << form.*z.mitglied.zeichen; break;
+        case qbArt::Bool: s << static_cast<char>(form.*z.mitglied.wahrheit); break;
+        case qbArt::Int: s << form.*z.mitglied.ganz; break;
+        case qbArt::Enum: s << static_cast<char>(form.*z.mitglied.ganz); break;
+        case qbArt::Long: s << form.*z.mitglied.lang; break;
+        case qbArt::Double: s << form.*z.mitglied.zahl; break;
+        case qbArt::Date:
+        case qbArt::Person: break;
+        }
+    }
+}
+
+RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
+    RWspace summe = 0;
+    for (const qbFeld& z : *this) {
+        switch (z.art) {
+        case qbArt::Text: summe += 4 + (z.laengeInGroesse ? (form.*z.mitglied.text).length() : 0); break;
+        case qbArt::Flag:
+        case qbArt::Char:
+        case qbArt::Bool: summe += 1; break;
+        case qbArt::Int:
+        case qbArt::Long:
+        case qbArt::Enum:
+        case qbArt::Date: summe += 4; break;
+        case qbArt::Double: summe += 8; break;
+        case qbArt::Person: break; // no class with a person counts its size
+        }
+    }
+    return summe;
+}
+
+// ---- XML
+
+void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
+    for (const qbFeld& z : *this) {
+        if (!z.xmlSchreibKey) continue;
+        const RWCString key(z.xmlSchreibKey);
+        switch (z.art) {
+        case qbArt::Text: knoten.List(CQBXMLdata(key, form.*z.mitglied.text)); break;
+        case qbArt::Flag: knoten.List(CQBXMLdata(key, form.*z.mitglied.flag)); break;
+        case qbArt::Bool: knoten.List(CQBXMLdata(key, form.*z.mitglied.wahrheit)); break;
+        case qbArt::Int:
+        case qbArt::Enum: knoten.List(CQBXMLdata(key, form.*z.mitglied.ganz)); break;
+        case qbArt::Long: knoten.List(CQBXMLdata(key, form.*z.mitglied.lang)); break;
+        case qbArt::Double: knoten.List(CQBXMLdata(key, form.*z.mitglied.zahl)); break;
+        case qbArt::Date: knoten.List(CQBXMLdata(key, form.*z.mitglied.datum)); break;
+        case qbArt::Char:
+        case qbArt::Person: break; // no value type of their own: a form says how it exchanges them
+        }
+    }
+}
+
+void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
+    for (const qbFeld& z : *this) {
+        if (!z.xmlLeseKey) continue;
+        const RWCString key(z.xmlLeseKey);
+        switch (z.art) {
+        case qbArt::Text: knoten.Listvalue(key, form.*z.mitglied.text); break;
+        case qbArt::Flag: knoten.Listvalue(key, form.*z.mitglied.flag); break;
+        case qbArt::Bool: knoten.Listvalue(key, form.*z.mitglied.wahrheit); break;
+        case qbArt::Int:
+        case qbArt::Enum: knoten.Listvalue(key, form.*z.mitglied.ganz); break;
+        case qbArt::Long: knoten.Listvalue(key, form.*z.mitglied.lang); break;
+        case qbArt::Double: knoten.Listvalue(key, form.*z.mitglied.zahl); break;
+        case qbArt::Date: knoten.Listvalue(key, form.*z.mitglied.datum); break;
+        case qbArt::Char:
+        case qbArt::Person: break;
+        }
+    }
+}

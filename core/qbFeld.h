@@ -1,0 +1,193 @@
+// The field table of a form: one row per field, in stream order, written once per form class and read by
+// the routine operations (copy, reset to defaults, save and restore of the current layout, XML, size).
+//
+// A row knows the field's member, its type, its XML keys and its default. Deviations that belong to one
+// field are named modifiers on its row, for example
+//     FELD(Int, Dauer, .standard(-1))
+//     FELD(Text, AntwortZuFrage, .ohneLaengeInGroesse())
+//     FELD(Text, Foo, .xml("Foo ").liesXml("Foo"))
+// Deviations that belong to a whole operation are written by hand in the form's file.
+#pragma once
+
+#include "rw/cstring.h"
+#include "rw/rwdate.h"
+#include "qballg/qbPerson.h"
+
+class CQBXMLdata;
+class RWFile;
+class RWvistream;
+class RWvostream;
+class qbFormular;
+
+// The types of the field tables and their encodings:
+//   Text    RWCString      length (4 bytes) and characters
+//   Flag    unsigned char  1 byte; 0xff not answered, 1 ja, 0 nein
+//   Char    char           1 byte
+//   Bool    bool           1 byte (a char)
+//   Int     int            4 bytes
+//   Long    long           4 bytes
+//   Double  double         8 bytes
+//   Date    RWDate         its day number, 4 bytes (RWFile only)
+//   Person  qbPerson       its own record (RWFile only)
+//   Enum    int            an enumeration held as int, stored as its low byte through a Char and read
+//                          back sign-extended
+enum class qbArt : unsigned char { Text, Flag, Char, Bool, Int, Long, Double, Date, Person, Enum };
+
+struct qbFeld {
+    qbArt art;
+    const char* name;
+    union Mitglied {
+        RWCString qbFormular::*text;
+        unsigned char qbFormular::*flag;
+        char qbFormular::*zeichen;
+        bool qbFormular::*wahrheit;
+        int qbFormular::*ganz; // Int and Enum
+        long qbFormular::*lang;
+        double qbFormular::*zahl;
+        RWDate qbFormular::*datum;
+        qbPerson qbFormular::*person;
+    } mitglied;
+    const char* xmlSchreibKey; // null: the field does not go into XML
+    const char* xmlLeseKey;    // null: the field is not read from XML
+    bool laengeInGroesse;      // a Text's characters count in binaryStoreSize
+    long standardGanz;         // default of Flag, Char, Bool, Int, Long, Enum
+    double standardZahl;       // default of Double
+    const char* standardText;  // default of Text
+    int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
+    bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
+
+    // Modifiers of a row.
+    constexpr qbFeld xml(const char* key) const {
+        qbFeld f = *this;
+        f.xmlSchreibKey = f.xmlLeseKey = key;
+        return f;
+    }
+    constexpr qbFeld liesXml(const char* key) const { // read under another key than written
+        qbFeld f = *this;
+        f.xmlLeseKey = key;
+        return f;
+    }
+    constexpr qbFeld nurXmlSchreiben() const { // written to XML, never read back
+        qbFeld f = *this;
+        f.xmlLeseKey = nullptr;
+        return f;
+    }
+    constexpr qbFeld ohneXml() const {
+        qbFeld f = *this;
+        f.xmlSchreibKey = f.xmlLeseKey = nullptr;
+        return f;
+    }
+    constexpr qbFeld standard(long wert) const {
+        qbFeld f = *this;
+        f.standardGanz = wert;
+        f.standardZahl = static_cast<double>(wert);
+        return f;
+    }
+    constexpr qbFeld standard(const char* text) const {
+        qbFeld f = *this;
+        f.standardText = text;
+        return f;
+    }
+    constexpr qbFeld liesAb(int versionsSchluessel) const { // the field came with that version
+        qbFeld f = *this;
+        f.liesAbSchluessel = versionsSchluessel;
+        return f;
+    }
+    constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
+        qbFeld f = *this;
+        f.liesWenn = bedingung;
+        return f;
+    }
+    bool gehoertZumLayout(int versionsSchluessel) const {
+        return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
+    }
+    constexpr qbFeld ohneLaengeInGroesse() const {
+        qbFeld f = *this;
+        f.laengeInGroesse = false;
+        return f;
+    }
+
+    // Row builders, one per type. Klasse is the form that declares the member.
+    template <class Klasse>
+    static constexpr qbFeld Text(RWCString Klasse::*m, const char* name) {
+        return zeile(qbArt::Text, name, {.text = static_cast<RWCString qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Flag(unsigned char Klasse::*m, const char* name) {
+        return zeile(qbArt::Flag, name, {.flag = static_cast<unsigned char qbFormular::*>(m)}).standard(0xff);
+    }
+    template <class Klasse>
+    static constexpr qbFeld Char(char Klasse::*m, const char* name) {
+        return zeile(qbArt::Char, name, {.zeichen = static_cast<char qbFormular::*>(m)}).ohneXml();
+    }
+    template <class Klasse>
+    static constexpr qbFeld Bool(bool Klasse::*m, const char* name) {
+        return zeile(qbArt::Bool, name, {.wahrheit = static_cast<bool qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Int(int Klasse::*m, const char* name) {
+        return zeile(qbArt::Int, name, {.ganz = static_cast<int qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Long(long Klasse::*m, const char* name) {
+        return zeile(qbArt::Long, name, {.lang = static_cast<long qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Double(double Klasse::*m, const char* name) {
+        return zeile(qbArt::Double, name, {.zahl = static_cast<double qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Date(RWDate Klasse::*m, const char* name) {
+        return zeile(qbArt::Date, name, {.datum = static_cast<RWDate qbFormular::*>(m)});
+    }
+    template <class Klasse>
+    static constexpr qbFeld Person(qbPerson Klasse::*m, const char* name) {
+        return zeile(qbArt::Person, name, {.person = static_cast<qbPerson qbFormular::*>(m)}).ohneXml();
+    }
+    template <class Klasse>
+    static constexpr qbFeld Enum(int Klasse::*m, const char* name) {
+        return zeile(qbArt::Enum, name, {.ganz = static_cast<int qbFormular::*>(m)});
+    }
+
+private:
+    static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
+        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+    }
+};
+
+// The rows of one form class, and the routine operations they drive. Every operation touches only the
+// rows' members: the header and base-class fields are the callers' business.
+class qbFeldTabelle {
+public:
+    constexpr qbFeldTabelle() : zeilen_(nullptr), anzahl_(0) {}
+    template <size_t N>
+    constexpr qbFeldTabelle(const qbFeld (&zeilen)[N]) : zeilen_(zeilen), anzahl_(N) {}
+
+    const qbFeld* begin() const { return zeilen_; }
+    const qbFeld* end() const { return zeilen_ + anzahl_; }
+    size_t size() const { return anzahl_; }
+    const qbFeld* suche(const char* name) const; // the row of a field, or null
+
+    void setzeStandard(qbFormular& form) const;
+    void kopiere(qbFormular& ziel, const qbFormular& quelle) const;
+
+    void schreibe(const qbFormular& form, RWFile& f) const;
+    void schreibe(const qbFormular& form, RWvostream& s) const;
+    // Reads the rows that belong to the layout of the form's Version (see liesAb, liesNurWenn).
+    void lies(qbFormular& form, RWFile& f) const;
+    void lies(qbFormular& form, RWvistream& s) const;
+    // Reads one row, or a value of that type that is thrown away when form is null.
+    static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);
+    static void liesZeile(const qbFeld& zeile, qbFormular* form, RWvistream& s);
+
+    // Bytes the rows take on RWFile: 4 per Text plus its characters (unless the row leaves them out),
+    // 1 per Flag, Char and Bool, 4 per Int, Long, Enum and Date, 8 per Double.
+    RWspace groesse(const qbFormular& form) const;
+
+    void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
+    void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
+
+private:
+    const qbFeld* zeilen_;
+    size_t anzahl_;
+};

@@ -1,0 +1,110 @@
+#include "core/qbFormular.h"
+
+#include "core/qbKlassen.h"
+#include "qballg/CQBXMLdata.h"
+#include "rw/rwfile.h"
+#include "rw/vstream.h"
+#include "core/qbFormularDefinition.h"
+
+#include <cstdlib>
+
+// The header gained Seitenanzahl with 11.2001.
+static constexpr int kSeitenanzahlAb = 200111;
+
+int qbVersionsSchluessel(const RWCString& version) {
+    RWCString monat = version(0, 2);
+    RWCString jahr = version(3, 4);
+    return std::atoi(jahr + monat);
+}
+
+unsigned short qbFormular::myAtom = qbId_qbFormular;
+unsigned short qbFormular::classIsA() { return myAtom; }
+
+// Seitenanzahl of a bare base object is not a class constant; 0 is its defined value here.
+qbFormular::qbFormular() : Seitenanzahl(0) {}
+
+qbFormular::qbFormular(const qbFormular& other) : RWCollectable(), Seitenanzahl(0) { *this = other; }
+
+// Assigns the five header fields in order; the RWCollectable part is left alone.
+qbFormular& qbFormular::operator=(const qbFormular& other) {
+    Version = other.Version;
+    DruckstueckNummer = other.DruckstueckNummer;
+    DruckstueckName = other.DruckstueckName;
+    Seitenanzahl = other.Seitenanzahl;
+    PersonenKennung = other.PersonenKennung;
+    return *this;
+}
+
+qbFormular::~qbFormular() = default;
+
+RWCollectable* qbFormular::newSpecies() const { return new qbFormular; }
+RWCollectable* qbFormular::copy() const { return new qbFormular(*this); }
+RWClassID qbFormular::isA() const { return myAtom; }
+
+void qbFormular::setzeKopf(const qbKlasse& klasse) {
+    Version = klasse.version;
+    DruckstueckNummer = klasse.nummer;
+    DruckstueckName = klasse.name;
+    Seitenanzahl = klasse.seiten;
+    PersonenKennung = klasse.person;
+}
+
+int qbFormular::versionsSchluessel() const { return qbVersionsSchluessel(Version); }
+
+// The argument is taken to be a form: the list compares forms with forms only.
+RWBoolean qbFormular::isEqual(const RWCollectable* other) const {
+    const qbFormular* o = static_cast<const qbFormular*>(other);
+    return DruckstueckNummer == o->DruckstueckNummer && PersonenKennung == o->PersonenKennung;
+}
+
+const qbFeldTabelle& qbFormular::felder() {
+    using F = qbFormular;
+    static constexpr qbFeld zeilen[] = {
+        qbFeld::Text(&F::Version, "Version").nurXmlSchreiben(),
+        qbFeld::Text(&F::DruckstueckNummer, "DruckstueckNummer"),
+        qbFeld::Text(&F::DruckstueckName, "DruckstueckName"),
+        qbFeld::Int(&F::Seitenanzahl, "Seitenanzahl").liesAb(kSeitenanzahlAb).nurXmlSchreiben(),
+        qbFeld::Text(&F::PersonenKennung, "PersonenKennung"),
+    };
+    static constexpr qbFeldTabelle tabelle(zeilen);
+    return tabelle;
+}
+
+// Four string lengths of 4 bytes and Seitenanzahl: 20 fixed bytes.
+RWspace qbFormular::binaryStoreSize() const { return RWCollectable::binaryStoreSize() + felder().groesse(*this); }
+
+void qbFormular::saveGuts(RWFile& f) const {
+    RWCollectable::saveGuts(f);
+    felder().schreibe(*this, f);
+}
+
+void qbFormular::saveGuts(RWvostream& s) const {
+    RWCollectable::saveGuts(s);
+    felder().schreibe(*this, s);
+}
+
+void qbFormular::restoreGuts(RWFile& f) {
+    RWCollectable::restoreGuts(f);
+    felder().lies(*this, f);
+}
+
+void qbFormular::restoreGuts(RWvistream& s) {
+    RWCollectable::restoreGuts(s);
+    felder().lies(*this, s);
+}
+
+void qbFormular::loesche() { PersonenKennung = ""; }
+
+void qbFormular::XMLgetDat(CQBXMLdata& knoten) const {
+    knoten.clear(klassenName());
+    felder().xmlSchreibe(*this, knoten);
+}
+
+// Version and Seitenanzahl are written but never read back: a form from XML keeps those of its
+// constructor.
+void qbFormular::XMLputDat(CQBXMLdata& knoten) {
+    if (knoten.Typ() != klassenName()) return;
+    felder().xmlLies(*this, knoten);
+}
+
+QB_KLASSEN_EINSTIEG(qbFormular)

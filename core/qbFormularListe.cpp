@@ -1,0 +1,421 @@
+#include "core/qbFormularListe.h"
+
+#include "core/qbKlassen.h"
+#include "qballg/CQBXMLdata.h"
+#include "rw/rwerr.h"
+#include "rw/rwfile.h"
+#include "rw/rwstore.h"
+#include "rw/toolerr.h"
+#include "rw/tphasht.h"
+#include "rw/vstream.h"
+
+#include <memory>
+#include <unordered_set>
+
+namespace {
+
+// The catalogue of print pieces: a table of its own that has drifted from the classes, kept as it is.
+// "GS004" has a class and no row; L139, L244, L245 and L283 carry other names or page counts here.
+const struct {
+    const char* nummer;
+    const char* name;
+    const char* seiten;
+} kKatalog[] = {
+    {"Aenderungsprotokoll", "Änderungsprotokoll zum LV-Antrag", "1"},
+    {"AU523", "Beiblatt ProAktiv", "1"},
+    {"BA272", "UFB-UMU-Aufnahmeantrag", "1"},
+    {"BA276", "BAF-Aufnahmeantrag", "1"},
+    {"BAV", "", "1"},
+    {"GN056", "Dauerantrag auf Altersvorsorgezulage", "4"},
+    {"GR396", "Überweisung VWL durch Arbeitgeber", "1"},
+    {"GS004_001", "Finanzielle Risikoprüfung BU", "1"},
+    {"GS004_002", "Finanzielle Risikoprüfung LV", "1"},
+    {"GS004_003", "Finanzielle Risikoprüfung UZ", "1"},
+    {"KOLL", "Gruppentarif-Klausel", "0"},
+    {"L036", "Erklärung Auslandsaufenthalt", "1"},
+    {"L095", "Tätigkeitsbeschreibung", "1"},
+    {"L134", "Erkrankung Diabetes mellitus", "2"},
+    {"L135", "Erklärung Hautkrankheit", "3"},
+    {"L137", "Erklärung Kopfschmerzen", "3"},
+    {"L138", "Erklärung Herz- und Kreislauferkrankungen", "2"},
+    {"L139", "Erklärung Ohrenerkrankungen", "2"},
+    {"L141", "Erklärung Gynäkologische Erkrankungen", "2"},
+    {"L142", "Erklärung Magen- und Zwölffingerdarmerkrankungen", "2"},
+    {"L143", "Erklärung Harnwegs- und Nierenerkrankungen", "2"},
+    {"L144", "Erklärung Schwangerschaft", "1"},
+    {"L145", "Erklärung Verletzungen", "2"},
+    {"L146", "Erklärung Wirbelsäulenbeschwerden", "2"},
+    {"L147", "Erklärung Blutdruckkontrolle", "1"},
+    {"L241", "Erklärung Atemwegserkrankungen", "2"},
+    {"L243", "Erklärung Epilepsie", "2"},
+    {"L244", "Erklärung Thrombosen/Venenerkrankungen", "3"},
+    {"L245", "Erklärung Schilddrüsenerkrankungen", "3"},
+    {"L249", "Erklärung Allergien", "2"},
+    {"L281", "Erklärung Gelenke", "2"},
+    {"L282", "Erklärung Augenkrankheiten", "2"},
+    {"L283", "Erklärung Psychische Krankheiten", "2"},
+    {"L300", "Geldwäschegesetz", "1"},
+    {"L300_2", "Geldwäschegesetz Firma", "1"},
+    {"L440", "Erklärung Kampfsport", "1"},
+    {"L441", "Erklärung Flugsport", "1"},
+    {"L450", "Erklärung Bergsport", "1"},
+    {"L451", "Erklärung Tauchsport", "2"},
+    {"L452", "Erklärung Automobilsport", "1"},
+    {"L453", "Erklärung Motorradsport", "1"},
+    {"L454", "Erklärung Sportarten allgemein", "2"},
+    {"VB077", "Recherchebericht zum LV-Antrag", "1"},
+    {"VB077A", "Ausländischer Antragsteller", "1"},
+    {"X278", "Erklärung Freizeitreiter", "1"},
+};
+
+// The pieces loescheGesundheitsFormulare clears, in this order: the sport declarations count as health
+// forms here, the stay-abroad declaration and the financial forms do not.
+const char* const kGesundheitsStuecke[] = {"L134", "L135", "L137", "L138", "L139", "L141", "L142",
+                                           "L143", "L144", "L145", "L146", "L147", "L241", "L243",
+                                           "L244", "L245", "L249", "L281", "L282", "L283", "L440",
+                                           "L441", "L450", "L451", "L452", "L453", "L454", "X278"};
+
+int personenIndex(const RWCString& kennung) {
+    if (kennung == "VP1") return 0;
+    if (kennung == "VP2") return 1;
+    return -1;
+}
+
+} // namespace
+
+RWCString qbPersonenKennung(int person) {
+    switch (person) {
+    case 0: return "VP1";
+    case 1: return "VP2";
+    default: return "VN";
+    }
+}
+
+qbFormularListe::qbFormularListe() : Version("05.1999") {
+    for (const auto& zeile : kKatalog) Katalog.insert(qbFormularInfo(zeile.nummer, zeile.name, zeile.seiten));
+}
+
+qbFormularListe::qbFormularListe(const qbFormularListe& other) : Version(other.Version) {
+    for (size_t i = 0; i < other.Formulare.entries(); ++i)
+        neuesFormular(*static_cast<qbFormular*>(other.Formulare.at(i)));
+}
+
+qbFormularListe& qbFormularListe::operator=(const qbFormularListe& other) {
+    if (this == &other) {
+        // Passing a list's forms through its own neuesFormular changes what is being walked.
+        const qbFormularListe kopie(other);
+        return *this = kopie;
+    }
+    Version = other.Version;
+    for (size_t i = 0; i < other.Formulare.entries(); ++i)
+        neuesFormular(*static_cast<qbFormular*>(other.Formulare.at(i)));
+    return *this;
+}
+
+qbFormularListe::~qbFormularListe() { Formulare.clearAndDestroy(); }
+
+void qbFormularListe::neuesFormular(qbFormular& form) {
+    const RWCString nummer = form.RefDruckstueckNummer();
+    const qbKlasse* klasse = qbKlasseZuNummer(nummer);
+    if (!klasse) { // unknown or empty number: a plain copy of the header, nothing replaced
+        Formulare.insert(qbKopiere_qbFormular(form));
+        return;
+    }
+    if (klasse->listenart == qbListenart::Ersetzend) loescheFormular(nummer, personenIndex(form.RefPersonenKennung()));
+    Formulare.insert(klasse->kopiere(form));
+}
+
+// The probe: a default object of the piece's class, filled as its search rule says; the first stored form
+// that calls itself equal to it wins.
+const qbFormular* qbFormularListe::sucheFormular(const RWCString& nummer, int person, const RWCString& extra1,
+                                                 const RWCString& extra2, bool zumLiefern) const {
+    const qbKlasse* klasse = zumLiefern ? qbKlasseZuNummerOderAlias(nummer) : qbKlasseZuNummer(nummer);
+    if (!klasse) return nullptr;
+    std::unique_ptr<qbFormular> sonde(static_cast<qbFormular*>(klasse->erzeuge()));
+    if (klasse->suche->fuelleSonde) klasse->suche->fuelleSonde(*sonde, extra1, extra2);
+    if (zumLiefern ? klasse->suche->personBeimLiefern : klasse->suche->personBeimSuchen)
+        sonde->RefPersonenKennung(qbPersonenKennung(person));
+    return static_cast<const qbFormular*>(Formulare.find(sonde.get()));
+}
+
+unsigned int qbFormularListe::liefereFormular(const RWCString& nummer, qbFormular& form, int person) const {
+    return liefereFormular(nummer, form, person, "", "");
+}
+
+unsigned int qbFormularListe::liefereFormular(const RWCString& nummer, qbFormular& form, int person,
+                                              const RWCString& extra1) const {
+    return liefereFormular(nummer, form, person, extra1, "");
+}
+
+unsigned int qbFormularListe::liefereFormular(const RWCString& nummer, qbFormular& form, int person,
+                                              const RWCString& extra1, const RWCString& extra2) const {
+    const qbKlasse* klasse = qbKlasseZuNummerOderAlias(nummer);
+    if (!klasse) return 0; // unknown piece: form stays as it was
+    if (const qbFormular* gefunden = sucheFormular(nummer, person, extra1, extra2, true)) {
+        klasse->zuweise(form, *gefunden);
+        return 1;
+    }
+    form.loesche();
+    return 0;
+}
+
+unsigned int qbFormularListe::liefereFormular(const RWCString&, qbFormular&, int, const RWCString&, int) const {
+    return 0;
+}
+
+bool qbFormularListe::FormularVorhanden(const RWCString& nummer, int person) const {
+    return FormularVorhanden(nummer, person, "", "");
+}
+
+bool qbFormularListe::FormularVorhanden(const RWCString& nummer, int person, const RWCString& extra1) const {
+    return FormularVorhanden(nummer, person, extra1, "");
+}
+
+bool qbFormularListe::FormularVorhanden(const RWCString& nummer, int person, const RWCString& extra1,
+                                        const RWCString& extra2) const {
+    return sucheFormular(nummer, person, extra1, extra2, false) != nullptr;
+}
+
+bool qbFormularListe::FormularVorhanden(const RWCString&, int, const RWCString&, int) const { return false; }
+
+unsigned int qbFormularListe::loescheFormular(const RWCString& nummer, int person) {
+    return loescheFormular(nummer, person, "", "");
+}
+
+unsigned int qbFormularListe::loescheFormular(const RWCString& nummer, int person, const RWCString& extra1) {
+    return loescheFormular(nummer, person, extra1, "");
+}
+
+unsigned int qbFormularListe::loescheFormular(const RWCString& nummer, int person, const RWCString& extra1,
+                                              const RWCString& extra2) {
+    const qbFormular* gefunden = sucheFormular(nummer, person, extra1, extra2, false);
+    if (!gefunden) return 0;
+    delete Formulare.removeReference(gefunden);
+    return 1;
+}
+
+unsigned int qbFormularListe::loescheFormular(const RWCString&, int, const RWCString&, int) { return 0; }
+
+void qbFormularListe::loescheFormulare() { Formulare.clearAndDestroy(); }
+
+void qbFormularListe::loescheGesundheitsFormulare(int person) {
+    for (const char* stueck : kGesundheitsStuecke)
+        while (loescheFormular(stueck, person, "", "")) {
+        }
+}
+
+unsigned int qbFormularListe::AnzahlFormulare() const { return static_cast<unsigned int>(Formulare.entries()); }
+
+qbFormular* qbFormularListe::liefereFormularAnPos(int pos) {
+    if (pos < 0 || static_cast<size_t>(pos) >= Formulare.entries()) return nullptr;
+    return static_cast<qbFormular*>(Formulare.at(static_cast<size_t>(pos)));
+}
+
+const qbFormular* qbFormularListe::liefereFormularAnPos(int pos) const {
+    return const_cast<qbFormularListe*>(this)->liefereFormularAnPos(pos);
+}
+
+RWTValSlist<qbFormularInfo> qbFormularListe::RefDruckstueckeInfo() { return Katalog; }
+
+RWTValSlist<RWCString> qbFormularListe::RefAlleDruckstueckNr() const {
+    RWTValSlist<RWCString> nummern;
+    for (const qbFormularInfo& info : Katalog) nummern.insert(info.Nummer);
+    return nummern;
+}
+
+// ---- XML
+
+void qbFormularListe::XMLgetDat(CQBXMLdata& knoten) {
+    CQBXMLdata element("");
+    knoten.clear("qbFormularListe");
+    knoten.List(CQBXMLdata("Version", Version));
+    CQBXMLdata sammlung("RWDlistCollectables");
+    sammlung.Attribute("Liste");
+    // XMLgetDat is not virtual: every element gets the header of qbFormular::XMLgetDat only.
+    for (unsigned pos = 0; pos < AnzahlFormulare(); ++pos) {
+        liefereFormularAnPos(static_cast<int>(pos))->qbFormular::XMLgetDat(element);
+        sammlung.List(element);
+    }
+    knoten.List(sammlung);
+}
+
+void qbFormularListe::XMLputDat(CQBXMLdata& knoten) {
+    if (knoten.Typ() != "qbFormularListe") return;
+    CQBXMLdata* sammlung = knoten.GetChildren("Liste");
+    if (!sammlung) return;
+    // In the order of the hash table, not of the list.
+    RWTPtrHashTableIterator<CQBXMLdata> eintraege(*sammlung->List());
+    while (CQBXMLdata* eintrag = eintraege()) {
+        const qbKlasse* klasse = qbKlasseZuXmlTyp(eintrag->Typ());
+        if (!klasse) continue;
+        std::unique_ptr<qbFormular> form(klasse->ausXml(*eintrag));
+        neuesFormular(*form);
+    }
+}
+
+// ---- Streams
+
+namespace {
+
+bool liesWert(RWFile& f, char& v) { return f.Read(v); }
+bool liesWert(RWFile& f, int& v) { return f.Read(v); }
+bool liesWert(RWvistream& s, char& v) {
+    s >> v;
+    return s.good();
+}
+bool liesWert(RWvistream& s, int& v) {
+    s >> v;
+    return s.good();
+}
+void schreibeWert(RWFile& f, char v) { f.Write(v); }
+void schreibeWert(RWFile& f, int v) { f.Write(v); }
+void schreibeWert(RWvostream& s, char v) { s << v; }
+void schreibeWert(RWvostream& s, int v) { s << v; }
+bool gut(RWFile& f) { return f.good(); }
+bool gut(RWvistream& s) { return s.good(); }
+
+[[noreturn]] void falscherVerweis() { RWThrow(RWInternalErr(RWMessage(RWTOOL_REF))); }
+
+template <class Strom>
+void schreibeListe(Strom& s, const qbFormularListe& liste) {
+    RWUseStoreTable tabelle;
+    int nummer = 0;
+    if (tabelle->add(&liste, nummer)) {
+        schreibeWert(s, ':');
+        rwSaveGuts(s, liste);
+    } else {
+        schreibeWert(s, '@');
+        schreibeWert(s, nummer);
+    }
+}
+
+// Reads the marker; true with the list's number on '@', false on ':'. Throws on any other marker.
+template <class Strom>
+bool liesMarke(Strom& s, bool& gelesen, int& nummer) {
+    gelesen = false;
+    char marke = 0;
+    if (!liesWert(s, marke)) return false;
+    if (marke == '@') {
+        if (!liesWert(s, nummer)) return false;
+        gelesen = true;
+        return true;
+    }
+    if (marke != ':') falscherVerweis();
+    gelesen = gut(s);
+    return false;
+}
+
+template <class Strom>
+void liesInListe(Strom& s, qbFormularListe& liste) {
+    if (!gut(s)) return;
+    RWUseReadTable tabelle;
+    bool gelesen = false;
+    int nummer = 0;
+    const bool verweis = liesMarke(s, gelesen, nummer);
+    if (!gelesen) return;
+    if (verweis) {
+        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() || tabelle->isCollectable(nummer) ||
+            (*tabelle)(static_cast<size_t>(nummer)) != &liste)
+            falscherVerweis();
+        return;
+    }
+    tabelle->append(static_cast<void*>(&liste));
+    rwRestoreGuts(s, liste);
+}
+
+template <class Strom>
+void liesInZeiger(Strom& s, qbFormularListe*& liste) {
+    if (!gut(s)) return;
+    RWUseReadTable tabelle;
+    bool gelesen = false;
+    int nummer = 0;
+    const bool verweis = liesMarke(s, gelesen, nummer);
+    if (!gelesen) return;
+    if (verweis) {
+        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() ||
+            (nummer != 0 && tabelle->isCollectable(nummer)))
+            falscherVerweis();
+        liste = static_cast<qbFormularListe*>((*tabelle)(static_cast<size_t>(nummer)));
+        return;
+    }
+    liste = new qbFormularListe;
+    tabelle->append(static_cast<void*>(liste));
+    rwRestoreGuts(s, *liste);
+}
+
+} // namespace
+
+namespace {
+
+// A list read back must own each of its forms once: an element that is no form, or the collection itself,
+// is taken out (and reported by the caller), and a second reference to a form read before becomes a copy.
+bool bereinige(RWDlistCollectables& formulare) {
+    bool entfernt = false;
+    std::unordered_set<RWCollectable*> gesehen, geloescht;
+    for (size_t i = 0; i < formulare.entries();) {
+        RWCollectable* c = formulare.at(i);
+        if (!c || c == &formulare || !dynamic_cast<qbFormular*>(c)) {
+            formulare.removeAt(i);
+            entfernt = true;
+            if (c && c != &formulare && geloescht.insert(c).second) delete c;
+            continue;
+        }
+        if (!gesehen.insert(c).second) formulare.at(i) = c->copy();
+        ++i;
+    }
+    return entfernt;
+}
+
+} // namespace
+
+// What was read before a failure stays in the list.
+template <class Strom>
+void qbLiesListe(Strom& s, qbFormularListe& liste) {
+    liste.Version.restoreFrom(s);
+    liste.Formulare.clearAndDestroy();
+    try {
+        RWCollectable::recursiveRestoreFrom(s, &liste.Formulare);
+    } catch (...) {
+        bereinige(liste.Formulare);
+        throw;
+    }
+    if (bereinige(liste.Formulare)) falscherVerweis();
+}
+
+void rwSaveGuts(RWFile& f, const qbFormularListe& liste) {
+    liste.Version.saveOn(f);
+    liste.Formulare.recursiveSaveOn(f);
+}
+
+void rwSaveGuts(RWvostream& s, const qbFormularListe& liste) {
+    liste.Version.saveOn(s);
+    liste.Formulare.recursiveSaveOn(s);
+}
+
+void rwRestoreGuts(RWFile& f, qbFormularListe& liste) { qbLiesListe(f, liste); }
+void rwRestoreGuts(RWvistream& s, qbFormularListe& liste) { qbLiesListe(s, liste); }
+
+RWFile& operator<<(RWFile& f, const qbFormularListe& liste) {
+    schreibeListe(f, liste);
+    return f;
+}
+RWvostream& operator<<(RWvostream& s, const qbFormularListe& liste) {
+    schreibeListe(s, liste);
+    return s;
+}
+RWFile& operator>>(RWFile& f, qbFormularListe& liste) {
+    liesInListe(f, liste);
+    return f;
+}
+RWvistream& operator>>(RWvistream& s, qbFormularListe& liste) {
+    liesInListe(s, liste);
+    return s;
+}
+RWFile& operator>>(RWFile& f, qbFormularListe*& liste) {
+    liesInZeiger(f, liste);
+    return f;
+}
+RWvistream& operator>>(RWvistream& s, qbFormularListe*& liste) {
+    liesInZeiger(s, liste);
+    return s;
+}

@@ -1,0 +1,49 @@
+#include "core/qbLayout.h"
+
+#include "core/qbFormular.h"
+#include "core/qbLeseBeobachter.h"
+
+#include <cassert>
+
+namespace {
+
+const qbFeld* sucheZeile(const char* name, std::initializer_list<const qbFeldTabelle*> tabellen) {
+    for (const qbFeldTabelle* t : tabellen)
+        if (const qbFeld* z = t->suche(name)) return z;
+    return nullptr;
+}
+
+template <class Strom>
+void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen) {
+    const int schluessel = qbVersionsSchluessel(form.RefVersion());
+    for (size_t i = 0; i < layout.anzahl; ++i) {
+        const qbSchritt& schritt = layout.schritte[i];
+        if (schluessel < schritt.abSchluessel) continue;
+        if (!schritt.feld) {
+            qbFeld weg{};
+            weg.art = schritt.verworfen;
+            qbFeldTabelle::liesZeile(weg, nullptr, s);
+            continue;
+        }
+        const qbFeld* zeile = sucheZeile(schritt.feld, tabellen);
+        assert(zeile && "a layout step names a field that no table of the form has");
+        if (zeile) qbFeldTabelle::liesZeile(*zeile, &form, s);
+    }
+}
+
+} // namespace
+
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen) {
+    liesSchritte(form, f, layout, tabellen);
+}
+
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen) {
+    liesSchritte(form, s, layout, tabellen);
+}
+
+void qbMeldeLayout(const char* klasse, const char* layout) {
+    if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) b->layout(klasse, layout);
+}

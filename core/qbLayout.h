@@ -1,0 +1,52 @@
+// Old stored layouts: explicit read sequences beside their form. A step names a field of the form or of
+// one of its bases, or a value of some type that an old layout held and that is read and thrown away:
+//
+//     // Layout of records before 05.2002: ...
+//     static constexpr qbSchritt vor200205[] = {"Verletzungshergang", "Verletzung", qbVerworfen::Text, ...};
+//     qbLiesLayout(*this, f, {"vor 05.2002", vor200205}, {&felder(), &qbFormularAllgGesu::felder()});
+#pragma once
+
+#include "core/qbFeld.h"
+
+#include <initializer_list>
+
+struct qbSchritt {
+    const char* feld; // null: a value of type verworfen, read and thrown away
+    qbArt verworfen;
+    int abSchluessel = 0; // the step belongs only to records whose version key is at least this
+    constexpr qbSchritt(const char* name) : feld(name), verworfen(qbArt::Text) {}
+    constexpr explicit qbSchritt(qbArt art) : feld(nullptr), verworfen(art) {}
+    constexpr qbSchritt ab(int versionsSchluessel) const {
+        qbSchritt s = *this;
+        s.abSchluessel = versionsSchluessel;
+        return s;
+    }
+};
+
+// Values that old layouts held and the current class has dropped.
+namespace qbVerworfen {
+constexpr qbSchritt Text{qbArt::Text};
+constexpr qbSchritt Flag{qbArt::Flag};
+constexpr qbSchritt Char{qbArt::Char};
+constexpr qbSchritt Int{qbArt::Int};
+constexpr qbSchritt Long{qbArt::Long};
+constexpr qbSchritt Double{qbArt::Double};
+} // namespace qbVerworfen
+
+struct qbLayout {
+    const char* name; // how the tool's explain names the branch
+    const qbSchritt* schritte;
+    size_t anzahl;
+    template <size_t N>
+    constexpr qbLayout(const char* n, const qbSchritt (&s)[N]) : name(n), schritte(s), anzahl(N) {}
+};
+
+// Reads the steps in order. Field names are looked up in the tables in the order given (the form's own
+// table first).
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen);
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen);
+
+// Tells an installed read observer which layout a restore chose.
+void qbMeldeLayout(const char* klasse, const char* layout);

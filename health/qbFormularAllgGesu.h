@@ -1,0 +1,54 @@
+// qbFormularAllgGesu: the base of the health declarations, with the seventeen answers every health
+// declaration once shared.
+#pragma once
+
+#include "core/qbFormularMakros.h"
+
+// Fields 13 and 14 came with 11.2001, left the 12.2001 to 04.2002 records and came back with 05.2002.
+#define QB_FELDER_qbFormularAllgGesu(FELD)                                                                  \
+    FELD(Text, Krankheit)                                                                                   \
+    FELD(TextKopie, AntwortZuFrage, .ohneLaengeInGroesse())                                                 \
+    FELD(Text, Beginn)                                                                                      \
+    FELD(Int, Dauer, .standard(-1))                                                                         \
+    FELD(Text, ArztAdresse)                                                                                 \
+    FELD(Flag, KrankenhausJN)                                                                               \
+    FELD(Flag, KurJN)                                                                                       \
+    FELD(Text, KrankenhausKur)                                                                              \
+    FELD(Text, AdresseKrankenhausKurstaette)                                                                \
+    FELD(Text, AdresseWeitererArzt)                                                                         \
+    FELD(Text, DatumBehandlungWeitererArzt)                                                                 \
+    FELD(Text, ErkrankungWeitererArzt)                                                                      \
+    FELD(Flag, ArbeitsplatzwechselJN, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))             \
+    FELD(Text, DatumArbeitsplatzwechsel, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))          \
+    FELD(Flag, ArbeitsunfaehigJN)                                                                           \
+    FELD(Text, DatumArbeitsunfaehigkeit)                                                                    \
+    FELD(Text, ErkrankungArbeitsunfaehigkeit)
+
+class qbFormularAllgGesu : public qbFormular {
+    QB_FORMULAR(qbFormularAllgGesu, qbFormular, QB_FELDER_qbFormularAllgGesu)
+
+    // Same piece and person; then Krankheit when the argument's is not empty; then AntwortZuFrage when
+    // neither side's is empty.
+    RWBoolean isEqual(const RWCollectable* other) const override;
+    // Same piece and person; then Krankheit when this object's is not empty; then AntwortZuFrage when
+    // this object's is not empty. Differs from isEqual on purpose.
+    int operator==(const qbFormularAllgGesu& other) const;
+
+    // The phrase of a Dauer code, with the singular verb ("hat ... angedauert; ") or the plural one.
+    enum Numerus { Einzahl, Mehrzahl };
+    static RWCString DauerPhrase(int dauer, Numerus numerus);
+
+    // The version test of ArbeitsplatzwechselJN and DatumArbeitsplatzwechsel: key >= 200205, or else
+    // exactly 200111.
+    static bool mitArbeitsplatzwechsel(int versionsSchluessel);
+
+protected:
+    // The two oldest layouts, "10.1999" and "01.2000", hold the common answers between the form's own
+    // fields: the derived form reads them itself.
+    bool hatFruehesLayout() const { return Version == "10.1999" || Version == "01.2000"; }
+    template <class Strom>
+    void liesGespeichert(Strom& s);
+};
+
+// The list's probe of a health piece: Krankheit and AntwortZuFrage from the two extras.
+void qbSondeGesundheit(qbFormular& sonde, const RWCString& krankheit, const RWCString& antwortZuFrage);
