@@ -21,7 +21,8 @@
      &qbErzeuge_##Klasse,                                                                                   \
      &qbKopiere_##Kopie,                                                                                    \
      &qbZuweise_##Klasse,                                                                                   \
-     &qbAusXml_##Klasse},
+     &qbAusXml_##Klasse,                                                                                    \
+     &qbZuXml_##Klasse},
 const qbKlasse qbKlassen[qbKlassenAnzahl] = {
 #include "core/qbKlassen.def"
 };

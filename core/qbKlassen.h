@@ -56,6 +56,8 @@ struct qbKlasse {
     void (*zuweise)(qbFormular& ziel, const qbFormular& quelle);
     // The list's XML import: a default object read through the class's own XMLputDat.
     qbFormular* (*ausXml)(CQBXMLdata& knoten);
+    // The class's own XMLgetDat (not virtual, so the list's XMLgetDat never calls it), for exporters.
+    void (*zuXml)(const qbFormular& form, CQBXMLdata& knoten);
 };
 
 // Class ids and table positions, by class name.
@@ -93,7 +95,8 @@ void qbKlassenAbmelden();
     const qbFeldTabelle& qbFelder_##Klasse();                                                               \
     qbFormular* qbKopiere_##Klasse(const qbFormular&);                                                      \
     void qbZuweise_##Klasse(qbFormular&, const qbFormular&);                                                \
-    qbFormular* qbAusXml_##Klasse(CQBXMLdata&);
+    qbFormular* qbAusXml_##Klasse(CQBXMLdata&);                                                             \
+    void qbZuXml_##Klasse(const qbFormular&, CQBXMLdata&);
 #include "core/qbKlassen.def"
 #undef QB_KLASSE
 
@@ -116,4 +119,8 @@ void qbKlassenAbmelden();
         Klasse* neu = new Klasse;                                                                           \
         neu->XMLputDat(knoten);                                                                             \
         return neu;                                                                                         \
+    }                                                                                                       \
+    void qbZuXml_##Klasse(const qbFormular& form, CQBXMLdata& knoten) {                                    \
+        if (const Klasse* k = dynamic_cast<const Klasse*>(&form)) k->XMLgetDat(knoten);                     \
+        else form.qbFormular::XMLgetDat(knoten);                                                            \
     }

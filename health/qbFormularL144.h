@@ -1,4 +1,4 @@
-// qbFormularL144, "Erklärung Schwangerschaft": the pregnancy declaration.
+// qbFormularL144, "Erklaerung Schwangerschaft": the pregnancy declaration.
 #pragma once
 
 #include "health/qbFormularAllgGesu.h"

@@ -1,4 +1,4 @@
-// qbFormularL145, "Erklärung Verletzungen": the injury declaration.
+// qbFormularL145, "Erklaerung Verletzungen": the injury declaration.
 #pragma once
 
 #include "health/qbFormularAllgGesu.h"

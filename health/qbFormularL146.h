@@ -1,4 +1,4 @@
-// qbFormularL146, "Erklärung Wirbelsäulenbeschwerden": the spine declaration.
+// qbFormularL146, "Erklaerung Wirbelsaeulenbeschwerden": the spine declaration.
 #pragma once
 
 #include "health/qbFormularAllgGesu.h"

@@ -1,4 +1,4 @@
-// qbFormularL147, "Erklärung Blutdruckkontrolle": the blood-pressure declaration, the one health form
+// qbFormularL147, "Erklaerung Blutdruckkontrolle": the blood-pressure declaration, the one health form
 // of the applicant ("VN").
 #pragma once
 

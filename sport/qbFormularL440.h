@@ -1,4 +1,4 @@
-// qbFormularL440, "Erklärung Kampfsport": the combat-sports declaration. The lower-case beginnings of
+// qbFormularL440, "Erklaerung Kampfsport": the combat-sports declaration. The lower-case beginnings of
 // haeufig13JN, haeufig4JN, hauptberuflichJN and verletztJN belong to the accessors and the XML keys.
 #pragma once
 
