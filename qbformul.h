@@ -33,6 +33,7 @@
 // The form core
 #include "core/qbFormular.h"
 #include "core/qbFormularListe.h"
+#include "core/qbKlassen.h"
 
 // Health declarations
 #include "health/qbFormularAllgGesu.h"
