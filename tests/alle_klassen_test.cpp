@@ -219,4 +219,76 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
     }
 }
 
+
+namespace {
+// The classes of the stored format in the order of registration, with their identifiers.
+const struct {
+    RWClassID id;
+    const char* klasse;
+} kGespeicherteKlassen[] = {
+    {3000, "qbFormular"},
+    {30001, "qbFormularL300"},
+    {30045, "qbFormularL300_2"},
+    {30002, "qbFormularGS004"},
+    {30003, "qbFormularL145"},
+    {30004, "qbFormularL249"},
+    {30005, "qbFormularL146"},
+    {30038, "qbFormularL139"},
+    {30043, "qbFormularL137"},
+    {30044, "qbFormularL135"},
+    {30006, "qbFormularL241"},
+    {30007, "qbFormularL142"},
+    {30008, "qbFormularL138"},
+    {30009, "qbFormularL143"},
+    {30010, "qbFormularL141"},
+    {30011, "qbFormularL134"},
+    {30012, "qbFormularL243"},
+    {30039, "qbFormularL244"},
+    {30040, "qbFormularL245"},
+    {30041, "qbFormularL283"},
+    {30013, "qbFormularAllgGesu"},
+    {30035, "qbFormularL440"},
+    {30046, "qbFormularL441"},
+    {30014, "qbFormularL450"},
+    {30015, "qbFormularL451"},
+    {30016, "qbFormularL452"},
+    {30017, "qbFormularL453"},
+    {30042, "qbFormularL454"},
+    {30047, "qbFormularX278"},
+    {30018, "qbFormularL036"},
+    {30019, "qbFormularGR396"},
+    {30020, "qbFormularVB077A"},
+    {30021, "qbFormularKOLL"},
+    {30028, "qbFormularBAV"},
+    {30022, "qbFormularL147"},
+    {30023, "qbFormularL144"},
+    {30024, "qbFormularBA272"},
+    {30025, "qbFormularBA276"},
+    {30026, "qbFormularL281"},
+    {30027, "qbFormularL282"},
+    {30029, "qbFormularVB077"},
+    {30030, "qbFormularAenderungsprotokoll"},
+    {30031, "qbFormularGS004BUZ"},
+    {30032, "qbFormularGS004LV"},
+    {30033, "qbFormularGS004UZ"},
+    {30034, "qbFormularAU523"},
+    {30036, "qbFormularGN056"},
+    {30037, "qbFormularL095"}};
+} // namespace
+
+TEST(Klassentabelle, BuiltRowsHaveTheIdsOfTheStoredFormatAndItsOrderOfRegistration) {
+    EXPECT_EQ(std::size(kGespeicherteKlassen), 48u);
+    size_t letzte = 0;
+    for (const qbKlasse& k : qbKlassen) {
+        size_t stelle = 0;
+        while (stelle < std::size(kGespeicherteKlassen) &&
+               std::string(kGespeicherteKlassen[stelle].klasse) != k.klassenName)
+            ++stelle;
+        ASSERT_LT(stelle, std::size(kGespeicherteKlassen)) << k.klassenName << " is no class of the stored format";
+        EXPECT_EQ(k.id, kGespeicherteKlassen[stelle].id) << k.klassenName;
+        EXPECT_GE(stelle, letzte) << k.klassenName << " is registered out of order";
+        letzte = stelle;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Klassentabelle, JedeKlasse, ::testing::ValuesIn(alleKlassen()), klassenNamen);
