@@ -243,6 +243,7 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 }
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
+    if (beobachter) beobachter->layout(klasse_, "aktuelle Tabelle");
     for (const qbFeld& z : *this)
         if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
 }

@@ -159,10 +159,12 @@ private:
 // rows' members: the header and base-class fields are the callers' business.
 class qbFeldTabelle {
 public:
-    constexpr qbFeldTabelle() : zeilen_(nullptr), anzahl_(0) {}
+    constexpr qbFeldTabelle() : klasse_(""), zeilen_(nullptr), anzahl_(0) {}
     template <size_t N>
-    constexpr qbFeldTabelle(const qbFeld (&zeilen)[N]) : zeilen_(zeilen), anzahl_(N) {}
+    constexpr qbFeldTabelle(const char* klasse, const qbFeld (&zeilen)[N])
+        : klasse_(klasse), zeilen_(zeilen), anzahl_(N) {}
 
+    const char* klasse() const { return klasse_; } // the class that declares the rows
     const qbFeld* begin() const { return zeilen_; }
     const qbFeld* end() const { return zeilen_ + anzahl_; }
     size_t size() const { return anzahl_; }
@@ -188,6 +190,7 @@ public:
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
 
 private:
+    const char* klasse_;
     const qbFeld* zeilen_;
     size_t anzahl_;
 };

@@ -66,7 +66,7 @@ const qbFeldTabelle& qbFormular::felder() {
         qbFeld::Int(&F::Seitenanzahl, "Seitenanzahl").liesAb(kSeitenanzahlAb).nurXmlSchreiben(),
         qbFeld::Text(&F::PersonenKennung, "PersonenKennung"),
     };
-    static constexpr qbFeldTabelle tabelle(zeilen);
+    static constexpr qbFeldTabelle tabelle("qbFormular", zeilen);
     return tabelle;
 }
 

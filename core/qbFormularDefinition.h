@@ -22,7 +22,7 @@
     const qbFeldTabelle& Klasse::felder() {                                                                 \
         using Selbst = Klasse;                                                                              \
         static constexpr qbFeld zeilen[] = {Felder(QB_FELD_ZEILE)};                                        \
-        static constexpr qbFeldTabelle tabelle(zeilen);                                                     \
+        static constexpr qbFeldTabelle tabelle(#Klasse, zeilen);                                                     \
         return tabelle;                                                                                     \
     }                                                                                                       \
     Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }            \

@@ -36,6 +36,7 @@ void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
 
 void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen) {
+    qbMeldeLayout(tabellen.size() ? (*tabellen.begin())->klasse() : "", layout.name);
     liesSchritte(form, f, layout, tabellen);
 }
 

@@ -32,7 +32,7 @@ template <class Strom>
 void qbFormularAllgGesu::liesGespeichert(Strom& s) {
     qbFormular::restoreGuts(s);
     if (!hatFruehesLayout()) felder().lies(*this, s);
-    if (versionsSchluessel() < 200012) qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {});
+    if (versionsSchluessel() < 200012) qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {&felder()});
 }
 
 void qbFormularAllgGesu::restoreGuts(RWFile& f) { liesGespeichert(f); }
