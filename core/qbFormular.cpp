@@ -51,10 +51,10 @@ void qbFormular::setzeKopf(const qbKlasse& klasse) {
 
 int qbFormular::versionsSchluessel() const { return qbVersionsSchluessel(Version); }
 
-// The argument is taken to be a form: the list compares forms with forms only.
+// The list compares forms with forms only; anything else is not equal.
 RWBoolean qbFormular::isEqual(const RWCollectable* other) const {
-    const qbFormular* o = static_cast<const qbFormular*>(other);
-    return DruckstueckNummer == o->DruckstueckNummer && PersonenKennung == o->PersonenKennung;
+    const qbFormular* o = dynamic_cast<const qbFormular*>(other);
+    return o && DruckstueckNummer == o->DruckstueckNummer && PersonenKennung == o->PersonenKennung;
 }
 
 const qbFeldTabelle& qbFormular::felder() {

@@ -38,9 +38,12 @@ void qbFormularAllgGesu::liesGespeichert(Strom& s) {
 void qbFormularAllgGesu::restoreGuts(RWFile& f) { liesGespeichert(f); }
 void qbFormularAllgGesu::restoreGuts(RWvistream& s) { liesGespeichert(s); }
 
-// The argument is taken to be of the family without a test: the list compares only forms of one piece.
+// The original takes the argument to be of the family without a test. A form of another class (the list
+// asks every stored form) is compared by the plain rule here instead of being misread.
 RWBoolean qbFormularAllgGesu::isEqual(const RWCollectable* other) const {
-    const qbFormularAllgGesu& o = *static_cast<const qbFormularAllgGesu*>(other);
+    const qbFormularAllgGesu* familie = dynamic_cast<const qbFormularAllgGesu*>(other);
+    if (!familie) return qbFormular::isEqual(other);
+    const qbFormularAllgGesu& o = *familie;
     if (DruckstueckNummer != o.DruckstueckNummer || PersonenKennung != o.PersonenKennung) return false;
     if (!o.Krankheit.isNull() && Krankheit != o.Krankheit) return false;
     const RWCString seine = o.RefAntwortZuFrage();
