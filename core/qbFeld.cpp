@@ -84,10 +84,69 @@ std::string alsText(const T& v) {
     else return std::to_string(v);
 }
 
-// The member of a row, or a scratch value when the value is thrown away.
+// One value of a stream, by its type; false when the stream could not give it.
+bool roh(RWFile& f, RWCString& v) {
+    v.restoreFrom(f);
+    return f.good();
+}
+bool roh(RWFile& f, RWDate& v) {
+    v.restoreFrom(f);
+    return f.good();
+}
+bool roh(RWFile& f, qbPerson& v) {
+    f >> v;
+    return f.good();
+}
 template <class T>
-T& ziel(qbFormular* form, T qbFormular::*m, T& scratch) {
-    return form ? form->*m : scratch;
+bool roh(RWFile& f, T& v) {
+    return f.Read(v);
+}
+bool roh(RWvistream& s, RWCString& v) {
+    v.restoreFrom(s);
+    return s.good();
+}
+template <class T>
+bool roh(RWvistream& s, T& v) {
+    s >> v;
+    return s.good();
+}
+
+// Reads into the row's member of form, or into a scratch value when form is null (a value thrown away).
+template <class T, class Lesen>
+void liesMitglied(qbFormular* form, T qbFormular::*m, std::string* text, Lesen lesen) {
+    T scratch{};
+    T& v = form ? form->*m : scratch;
+    lesen(v);
+    if (text) *text = alsText(v);
+}
+
+template <class Strom>
+void liesZeileAus(const qbFeld& z, qbFormular* form, Strom& s, std::string* text) {
+    auto direkt = [&](auto& v) { roh(s, v); };
+    switch (z.art) {
+    case qbArt::Text: return liesMitglied(form, z.mitglied.text, text, direkt);
+    case qbArt::Flag: return liesMitglied(form, z.mitglied.flag, text, direkt);
+    case qbArt::Char: return liesMitglied(form, z.mitglied.zeichen, text, direkt);
+    case qbArt::Int: return liesMitglied(form, z.mitglied.ganz, text, direkt);
+    case qbArt::Long: return liesMitglied(form, z.mitglied.lang, text, direkt);
+    case qbArt::Double: return liesMitglied(form, z.mitglied.zahl, text, direkt);
+    case qbArt::Bool: // one char; only the byte 1 is true
+        return liesMitglied(form, z.mitglied.wahrheit, text, [&](bool& v) {
+            char c = 0;
+            if (roh(s, c)) v = c == 1;
+        });
+    case qbArt::Enum: // one char, sign-extended
+        return liesMitglied(form, z.mitglied.ganz, text, [&](int& v) {
+            char c = 0;
+            if (roh(s, c)) v = static_cast<signed char>(c);
+        });
+    case qbArt::Date: // Date and Person never travel on a virtual stream
+        if constexpr (std::is_same_v<Strom, RWFile>) liesMitglied(form, z.mitglied.datum, text, direkt);
+        return;
+    case qbArt::Person:
+        if constexpr (std::is_same_v<Strom, RWFile>) liesMitglied(form, z.mitglied.person, text, direkt);
+        return;
+    }
 }
 
 } // namespace
@@ -101,138 +160,15 @@ qbLeseBeobachter* qbSetzeLeseBeobachter(qbLeseBeobachter* b) {
 qbLeseBeobachter* qbAktuellerLeseBeobachter() { return beobachter; }
 
 void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWFile& f) {
+    if (!beobachter) return liesZeileAus(z, form, f, nullptr);
     const long von = f.CurOffset();
     std::string wert;
-    auto melde = [&](const auto& v) {
-        if (beobachter) wert = alsText(v);
-    };
-    switch (z.art) {
-    case qbArt::Text: {
-        RWCString scratch;
-        RWCString& t = ziel(form, z.mitglied.text, scratch);
-        t.restoreFrom(f);
-        melde(t);
-        break;
-    }
-    case qbArt::Flag: {
-        unsigned char scratch = 0;
-        unsigned char& v = ziel(form, z.mitglied.flag, scratch);
-        f.Read(v);
-        melde(v);
-        break;
-    }
-    case qbArt::Char: {
-        char scratch = 0;
-        char& v = ziel(form, z.mitglied.zeichen, scratch);
-        f.Read(v);
-        melde(v);
-        break;
-    }
-    case qbArt::Bool: {
-        bool scratch = false;
-        bool& v = ziel(form, z.mitglied.wahrheit, scratch);
-        char c;
-        if (f.Read(c)) v = c == 1; // only the byte 1 is true
-        melde(v);
-        break;
-    }
-    case qbArt::Int: {
-        int scratch = 0;
-        int& v = ziel(form, z.mitglied.ganz, scratch);
-        f.Read(v);
-        melde(v);
-        break;
-    }
-    case qbArt::Enum: {
-        int scratch = 0;
-        int& v = ziel(form, z.mitglied.ganz, scratch);
-        char c;
-        if (f.Read(c)) v = static_cast<signed char>(c);
-        melde(v);
-        break;
-    }
-    case qbArt::Long: {
-        long scratch = 0;
-        long& v = ziel(form, z.mitglied.lang, scratch);
-        f.Read(v);
-        melde(v);
-        break;
-    }
-    case qbArt::Double: {
-        double scratch = 0;
-        double& v = ziel(form, z.mitglied.zahl, scratch);
-        f.Read(v);
-        melde(v);
-        break;
-    }
-    case qbArt::Date: {
-        RWDate scratch;
-        RWDate& v = ziel(form, z.mitglied.datum, scratch);
-        v.restoreFrom(f);
-        melde(v);
-        break;
-    }
-    case qbArt::Person: {
-        qbPerson scratch;
-        qbPerson& v = ziel(form, z.mitglied.person, scratch);
-        f >> v;
-        melde(v);
-        break;
-    }
-    }
-    if (beobachter) beobachter->feld(form ? z.name : nullptr, z.art, von, f.CurOffset(), wert);
+    liesZeileAus(z, form, f, &wert);
+    beobachter->feld(form ? z.name : nullptr, z.art, von, f.CurOffset(), wert);
 }
 
 void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) {
-    if (!s.good()) return; // values of a failed stream are not read into the form
-    switch (z.art) {
-    case qbArt::Text: {
-        RWCString scratch;
-        ziel(form, z.mitglied.text, scratch).restoreFrom(s);
-        break;
-    }
-    case qbArt::Flag: {
-        unsigned char scratch = 0;
-        s >> ziel(form, z.mitglied.flag, scratch);
-        break;
-    }
-    case qbArt::Char: {
-        char scratch = 0;
-        s >> ziel(form, z.mitglied.zeichen, scratch);
-        break;
-    }
-    case qbArt::Bool: {
-        bool scratch = false;
-        char c = 0;
-        s >> c;
-        if (s.good()) ziel(form, z.mitglied.wahrheit, scratch) = c == 1;
-        break;
-    }
-    case qbArt::Int: {
-        int scratch = 0;
-        s >> ziel(form, z.mitglied.ganz, scratch);
-        break;
-    }
-    case qbArt::Enum: {
-        int scratch = 0;
-        char c = 0;
-        s >> c;
-        if (s.good()) ziel(form, z.mitglied.ganz, scratch) = static_cast<signed char>(c);
-        break;
-    }
-    case qbArt::Long: {
-        long scratch = 0;
-        s >> ziel(form, z.mitglied.lang, scratch);
-        break;
-    }
-    case qbArt::Double: {
-        double scratch = 0;
-        s >> ziel(form, z.mitglied.zahl, scratch);
-        break;
-    }
-    case qbArt::Date:
-    case qbArt::Person: break; // never on a virtual stream
-    }
+    if (s.good()) liesZeileAus(z, form, s, nullptr); // a failed stream reads nothing into the form
 }
 
 // A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
