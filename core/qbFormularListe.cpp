@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <unordered_set>
+#include <vector>
 
 namespace {
 
@@ -368,17 +369,28 @@ bool bereinige(RWDlistCollectables& formulare) {
 
 } // namespace
 
-// What was read before a failure stays in the list.
+// The collection's own restore lets go of the forms the list held before (the vendor's list only unlinks
+// them); those are freed here once it has. If the stream ends before the collection, they stay. What was
+// read before a failure stays in the list.
 template <class Strom>
 void qbLiesListe(Strom& s, qbFormularListe& liste) {
     liste.Version.restoreFrom(s);
-    liste.Formulare.clearAndDestroy();
+    std::vector<RWCollectable*> vorher;
+    for (size_t i = 0; i < liste.Formulare.entries(); ++i) vorher.push_back(liste.Formulare.at(i));
+    auto gibFrei = [&] {
+        std::unordered_set<RWCollectable*> gehalten;
+        for (size_t i = 0; i < liste.Formulare.entries(); ++i) gehalten.insert(liste.Formulare.at(i));
+        for (RWCollectable* alt : vorher)
+            if (!gehalten.count(alt)) delete alt;
+    };
     try {
         RWCollectable::recursiveRestoreFrom(s, &liste.Formulare);
     } catch (...) {
+        gibFrei();
         bereinige(liste.Formulare);
         throw;
     }
+    gibFrei();
     if (bereinige(liste.Formulare)) falscherVerweis();
 }
 
