@@ -10,7 +10,6 @@
 #include <string>
 #include <type_traits>
 
-
 const qbFeld* qbFeldTabelle::suche(const char* name) const {
     for (const qbFeld& z : *this)
         if (std::strcmp(z.name, name) == 0) return &z;
@@ -20,16 +19,34 @@ const qbFeld* qbFeldTabelle::suche(const char* name) const {
 void qbFeldTabelle::setzeStandard(qbFormular& form) const {
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text: form.*z.mitglied.text = z.standardText; break;
-        case qbArt::Flag: form.*z.mitglied.flag = static_cast<unsigned char>(z.standardGanz); break;
-        case qbArt::Char: form.*z.mitglied.zeichen = static_cast<char>(z.standardGanz); break;
-        case qbArt::Bool: form.*z.mitglied.wahrheit = z.standardGanz != 0; break;
+        case qbArt::Text:
+            form.*z.mitglied.text = z.standardText;
+            break;
+        case qbArt::Flag:
+            form.*z.mitglied.flag = static_cast<unsigned char>(z.standardGanz);
+            break;
+        case qbArt::Char:
+            form.*z.mitglied.zeichen = static_cast<char>(z.standardGanz);
+            break;
+        case qbArt::Bool:
+            form.*z.mitglied.wahrheit = z.standardGanz != 0;
+            break;
         case qbArt::Int:
-        case qbArt::Enum: form.*z.mitglied.ganz = static_cast<int>(z.standardGanz); break;
-        case qbArt::Long: form.*z.mitglied.lang = z.standardGanz; break;
-        case qbArt::Double: form.*z.mitglied.zahl = z.standardZahl; break;
-        case qbArt::Date: form.*z.mitglied.datum = RWDate::fromJulian(0); break;
-        case qbArt::Person: (form.*z.mitglied.person).loesche(); break;
+        case qbArt::Enum:
+            form.*z.mitglied.ganz = static_cast<int>(z.standardGanz);
+            break;
+        case qbArt::Long:
+            form.*z.mitglied.lang = z.standardGanz;
+            break;
+        case qbArt::Double:
+            form.*z.mitglied.zahl = z.standardZahl;
+            break;
+        case qbArt::Date:
+            form.*z.mitglied.datum = RWDate::fromJulian(0);
+            break;
+        case qbArt::Person:
+            (form.*z.mitglied.person).loesche();
+            break;
         }
     }
 }
@@ -37,16 +54,34 @@ void qbFeldTabelle::setzeStandard(qbFormular& form) const {
 void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text: ziel.*z.mitglied.text = quelle.*z.mitglied.text; break;
-        case qbArt::Flag: ziel.*z.mitglied.flag = quelle.*z.mitglied.flag; break;
-        case qbArt::Char: ziel.*z.mitglied.zeichen = quelle.*z.mitglied.zeichen; break;
-        case qbArt::Bool: ziel.*z.mitglied.wahrheit = quelle.*z.mitglied.wahrheit; break;
+        case qbArt::Text:
+            ziel.*z.mitglied.text = quelle.*z.mitglied.text;
+            break;
+        case qbArt::Flag:
+            ziel.*z.mitglied.flag = quelle.*z.mitglied.flag;
+            break;
+        case qbArt::Char:
+            ziel.*z.mitglied.zeichen = quelle.*z.mitglied.zeichen;
+            break;
+        case qbArt::Bool:
+            ziel.*z.mitglied.wahrheit = quelle.*z.mitglied.wahrheit;
+            break;
         case qbArt::Int:
-        case qbArt::Enum: ziel.*z.mitglied.ganz = quelle.*z.mitglied.ganz; break;
-        case qbArt::Long: ziel.*z.mitglied.lang = quelle.*z.mitglied.lang; break;
-        case qbArt::Double: ziel.*z.mitglied.zahl = quelle.*z.mitglied.zahl; break;
-        case qbArt::Date: ziel.*z.mitglied.datum = quelle.*z.mitglied.datum; break;
-        case qbArt::Person: ziel.*z.mitglied.person = quelle.*z.mitglied.person; break;
+        case qbArt::Enum:
+            ziel.*z.mitglied.ganz = quelle.*z.mitglied.ganz;
+            break;
+        case qbArt::Long:
+            ziel.*z.mitglied.lang = quelle.*z.mitglied.lang;
+            break;
+        case qbArt::Double:
+            ziel.*z.mitglied.zahl = quelle.*z.mitglied.zahl;
+            break;
+        case qbArt::Date:
+            ziel.*z.mitglied.datum = quelle.*z.mitglied.datum;
+            break;
+        case qbArt::Person:
+            ziel.*z.mitglied.person = quelle.*z.mitglied.person;
+            break;
         }
     }
 }
@@ -56,16 +91,36 @@ void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
 void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const {
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text: (form.*z.mitglied.text).saveOn(f); break;
-        case qbArt::Flag: f.Write(form.*z.mitglied.flag); break;
-        case qbArt::Char: f.Write(form.*z.mitglied.zeichen); break;
-        case qbArt::Bool: f.Write(static_cast<char>(form.*z.mitglied.wahrheit)); break;
-        case qbArt::Int: f.Write(form.*z.mitglied.ganz); break;
-        case qbArt::Enum: f.Write(static_cast<char>(form.*z.mitglied.ganz)); break;
-        case qbArt::Long: f.Write(form.*z.mitglied.lang); break;
-        case qbArt::Double: f.Write(form.*z.mitglied.zahl); break;
-        case qbArt::Date: (form.*z.mitglied.datum).saveOn(f); break;
-        case qbArt::Person: f << form.*z.mitglied.person; break;
+        case qbArt::Text:
+            (form.*z.mitglied.text).saveOn(f);
+            break;
+        case qbArt::Flag:
+            f.Write(form.*z.mitglied.flag);
+            break;
+        case qbArt::Char:
+            f.Write(form.*z.mitglied.zeichen);
+            break;
+        case qbArt::Bool:
+            f.Write(static_cast<char>(form.*z.mitglied.wahrheit));
+            break;
+        case qbArt::Int:
+            f.Write(form.*z.mitglied.ganz);
+            break;
+        case qbArt::Enum:
+            f.Write(static_cast<char>(form.*z.mitglied.ganz));
+            break;
+        case qbArt::Long:
+            f.Write(form.*z.mitglied.lang);
+            break;
+        case qbArt::Double:
+            f.Write(form.*z.mitglied.zahl);
+            break;
+        case qbArt::Date:
+            (form.*z.mitglied.datum).saveOn(f);
+            break;
+        case qbArt::Person:
+            f << form.*z.mitglied.person;
+            break;
         }
     }
 }
@@ -77,11 +132,16 @@ thread_local qbLeseBeobachter* beobachter = nullptr;
 // A value as text, for the observer.
 template <class T>
 std::string alsText(const T& v) {
-    if constexpr (std::is_same_v<T, RWCString>) return v.std();
-    else if constexpr (std::is_same_v<T, RWDate>) return std::to_string(v.julian());
-    else if constexpr (std::is_same_v<T, qbPerson>) return v.RefAdressDaten().RefName().std();
-    else if constexpr (std::is_same_v<T, char>) return std::to_string(static_cast<int>(v));
-    else return std::to_string(v);
+    if constexpr (std::is_same_v<T, RWCString>)
+        return v.std();
+    else if constexpr (std::is_same_v<T, RWDate>)
+        return std::to_string(v.julian());
+    else if constexpr (std::is_same_v<T, qbPerson>)
+        return v.RefAdressDaten().RefName().std();
+    else if constexpr (std::is_same_v<T, char>)
+        return std::to_string(static_cast<int>(v));
+    else
+        return std::to_string(v);
 }
 
 // One value of a stream, by its type; false when the stream could not give it.
@@ -124,12 +184,18 @@ template <class Strom>
 void liesZeileAus(const qbFeld& z, qbFormular* form, Strom& s, std::string* text) {
     auto direkt = [&](auto& v) { roh(s, v); };
     switch (z.art) {
-    case qbArt::Text: return liesMitglied(form, z.mitglied.text, text, direkt);
-    case qbArt::Flag: return liesMitglied(form, z.mitglied.flag, text, direkt);
-    case qbArt::Char: return liesMitglied(form, z.mitglied.zeichen, text, direkt);
-    case qbArt::Int: return liesMitglied(form, z.mitglied.ganz, text, direkt);
-    case qbArt::Long: return liesMitglied(form, z.mitglied.lang, text, direkt);
-    case qbArt::Double: return liesMitglied(form, z.mitglied.zahl, text, direkt);
+    case qbArt::Text:
+        return liesMitglied(form, z.mitglied.text, text, direkt);
+    case qbArt::Flag:
+        return liesMitglied(form, z.mitglied.flag, text, direkt);
+    case qbArt::Char:
+        return liesMitglied(form, z.mitglied.zeichen, text, direkt);
+    case qbArt::Int:
+        return liesMitglied(form, z.mitglied.ganz, text, direkt);
+    case qbArt::Long:
+        return liesMitglied(form, z.mitglied.lang, text, direkt);
+    case qbArt::Double:
+        return liesMitglied(form, z.mitglied.zahl, text, direkt);
     case qbArt::Bool: // one char; only the byte 1 is true
         return liesMitglied(form, z.mitglied.wahrheit, text, [&](bool& v) {
             char c = 0;
@@ -193,16 +259,33 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
 void qbFeldTabelle::schreibe(const qbFormular& form, RWvostream& s) const {
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text: (form.*z.mitglied.text).saveOn(s); break;
-        case qbArt::Flag: s << form.*z.mitglied.flag; break;
-        case qbArt::Char: s << form.*z.mitglied.zeichen; break;
-        case qbArt::Bool: s << static_cast<char>(form.*z.mitglied.wahrheit); break;
-        case qbArt::Int: s << form.*z.mitglied.ganz; break;
-        case qbArt::Enum: s << static_cast<char>(form.*z.mitglied.ganz); break;
-        case qbArt::Long: s << form.*z.mitglied.lang; break;
-        case qbArt::Double: s << form.*z.mitglied.zahl; break;
+        case qbArt::Text:
+            (form.*z.mitglied.text).saveOn(s);
+            break;
+        case qbArt::Flag:
+            s << form.*z.mitglied.flag;
+            break;
+        case qbArt::Char:
+            s << form.*z.mitglied.zeichen;
+            break;
+        case qbArt::Bool:
+            s << static_cast<char>(form.*z.mitglied.wahrheit);
+            break;
+        case qbArt::Int:
+            s << form.*z.mitglied.ganz;
+            break;
+        case qbArt::Enum:
+            s << static_cast<char>(form.*z.mitglied.ganz);
+            break;
+        case qbArt::Long:
+            s << form.*z.mitglied.lang;
+            break;
+        case qbArt::Double:
+            s << form.*z.mitglied.zahl;
+            break;
         case qbArt::Date:
-        case qbArt::Person: break;
+        case qbArt::Person:
+            break;
         }
     }
 }
@@ -211,16 +294,25 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text: summe += 4 + (z.laengeInGroesse ? (form.*z.mitglied.text).length() : 0); break;
+        case qbArt::Text:
+            summe += 4 + (z.laengeInGroesse ? (form.*z.mitglied.text).length() : 0);
+            break;
         case qbArt::Flag:
         case qbArt::Char:
-        case qbArt::Bool: summe += 1; break;
+        case qbArt::Bool:
+            summe += 1;
+            break;
         case qbArt::Int:
         case qbArt::Long:
         case qbArt::Enum:
-        case qbArt::Date: summe += 4; break;
-        case qbArt::Double: summe += 8; break;
-        case qbArt::Person: break; // no class with a person counts its size
+        case qbArt::Date:
+            summe += 4;
+            break;
+        case qbArt::Double:
+            summe += 8;
+            break;
+        case qbArt::Person:
+            break; // no class with a person counts its size
         }
     }
     return summe;
@@ -233,16 +325,31 @@ void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) cons
         if (!z.xmlSchreibKey) continue;
         const RWCString key(z.xmlSchreibKey);
         switch (z.art) {
-        case qbArt::Text: knoten.List(CQBXMLdata(key, form.*z.mitglied.text)); break;
-        case qbArt::Flag: knoten.List(CQBXMLdata(key, form.*z.mitglied.flag)); break;
-        case qbArt::Bool: knoten.List(CQBXMLdata(key, form.*z.mitglied.wahrheit)); break;
+        case qbArt::Text:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.text));
+            break;
+        case qbArt::Flag:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.flag));
+            break;
+        case qbArt::Bool:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.wahrheit));
+            break;
         case qbArt::Int:
-        case qbArt::Enum: knoten.List(CQBXMLdata(key, form.*z.mitglied.ganz)); break;
-        case qbArt::Long: knoten.List(CQBXMLdata(key, form.*z.mitglied.lang)); break;
-        case qbArt::Double: knoten.List(CQBXMLdata(key, form.*z.mitglied.zahl)); break;
-        case qbArt::Date: knoten.List(CQBXMLdata(key, form.*z.mitglied.datum)); break;
+        case qbArt::Enum:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.ganz));
+            break;
+        case qbArt::Long:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.lang));
+            break;
+        case qbArt::Double:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.zahl));
+            break;
+        case qbArt::Date:
+            knoten.List(CQBXMLdata(key, form.*z.mitglied.datum));
+            break;
         case qbArt::Char:
-        case qbArt::Person: break; // no value type of their own: a form says how it exchanges them
+        case qbArt::Person:
+            break; // no value type of their own: a form says how it exchanges them
         }
     }
 }
@@ -252,16 +359,31 @@ void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
         if (!z.xmlLeseKey) continue;
         const RWCString key(z.xmlLeseKey);
         switch (z.art) {
-        case qbArt::Text: knoten.Listvalue(key, form.*z.mitglied.text); break;
-        case qbArt::Flag: knoten.Listvalue(key, form.*z.mitglied.flag); break;
-        case qbArt::Bool: knoten.Listvalue(key, form.*z.mitglied.wahrheit); break;
+        case qbArt::Text:
+            knoten.Listvalue(key, form.*z.mitglied.text);
+            break;
+        case qbArt::Flag:
+            knoten.Listvalue(key, form.*z.mitglied.flag);
+            break;
+        case qbArt::Bool:
+            knoten.Listvalue(key, form.*z.mitglied.wahrheit);
+            break;
         case qbArt::Int:
-        case qbArt::Enum: knoten.Listvalue(key, form.*z.mitglied.ganz); break;
-        case qbArt::Long: knoten.Listvalue(key, form.*z.mitglied.lang); break;
-        case qbArt::Double: knoten.Listvalue(key, form.*z.mitglied.zahl); break;
-        case qbArt::Date: knoten.Listvalue(key, form.*z.mitglied.datum); break;
+        case qbArt::Enum:
+            knoten.Listvalue(key, form.*z.mitglied.ganz);
+            break;
+        case qbArt::Long:
+            knoten.Listvalue(key, form.*z.mitglied.lang);
+            break;
+        case qbArt::Double:
+            knoten.Listvalue(key, form.*z.mitglied.zahl);
+            break;
+        case qbArt::Date:
+            knoten.Listvalue(key, form.*z.mitglied.datum);
+            break;
         case qbArt::Char:
-        case qbArt::Person: break;
+        case qbArt::Person:
+            break;
         }
     }
 }

@@ -71,7 +71,9 @@ const qbFeldTabelle& qbFormular::felder() {
 }
 
 // Four string lengths of 4 bytes and Seitenanzahl: 20 fixed bytes.
-RWspace qbFormular::binaryStoreSize() const { return RWCollectable::binaryStoreSize() + felder().groesse(*this); }
+RWspace qbFormular::binaryStoreSize() const {
+    return RWCollectable::binaryStoreSize() + felder().groesse(*this);
+}
 
 void qbFormular::saveGuts(RWFile& f) const {
     RWCollectable::saveGuts(f);

@@ -13,94 +13,96 @@
 
 // Identity, field table, copy construction and assignment (base first, then the own fields), and the
 // entry points of the class table (creator, copy for the list, assignment for the list, XML import).
-#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                             \
-    unsigned short Klasse::myAtom = qbId_##Klasse;                                                          \
-    unsigned short Klasse::classIsA() { return myAtom; }                                                   \
-    RWClassID Klasse::isA() const { return myAtom; }                                                        \
-    RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                       \
-    RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                      \
-    const qbFeldTabelle& Klasse::felder() {                                                                 \
-        using Selbst = Klasse;                                                                              \
-        static constexpr qbFeld zeilen[] = {Felder(QB_FELD_ZEILE)};                                        \
-        static constexpr qbFeldTabelle tabelle(#Klasse, zeilen);                                                     \
-        return tabelle;                                                                                     \
-    }                                                                                                       \
-    Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }            \
-    Klasse& Klasse::operator=(const Klasse& other) {                                                        \
-        Basisklasse::operator=(other);                                                                      \
-        felder().kopiere(*this, other);                                                                     \
-        return *this;                                                                                       \
-    }                                                                                                       \
-    Klasse::~Klasse() = default;                                                                            \
+#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+    unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
+    unsigned short Klasse::classIsA() { return myAtom; }                                                     \
+    RWClassID Klasse::isA() const { return myAtom; }                                                         \
+    RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
+    RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
+    const qbFeldTabelle& Klasse::felder() {                                                                  \
+        using Selbst = Klasse;                                                                               \
+        static constexpr qbFeld zeilen[] = {Felder(QB_FELD_ZEILE)};                                          \
+        static constexpr qbFeldTabelle tabelle(#Klasse, zeilen);                                             \
+        return tabelle;                                                                                      \
+    }                                                                                                        \
+    Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
+    Klasse& Klasse::operator=(const Klasse& other) {                                                         \
+        Basisklasse::operator=(other);                                                                       \
+        felder().kopiere(*this, other);                                                                      \
+        return *this;                                                                                        \
+    }                                                                                                        \
+    Klasse::~Klasse() = default;                                                                             \
     QB_KLASSEN_EINSTIEG(Klasse)
 
 // Default constructor: the base's defaults, the table's defaults, then the header constants of the class
 // table.
-#define QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                     \
-    Klasse::Klasse() {                                                                                      \
-        felder().setzeStandard(*this);                                                                      \
-        setzeKopf(qbKlassen[qbIndex_##Klasse]);                                                             \
+#define QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                      \
+    Klasse::Klasse() {                                                                                       \
+        felder().setzeStandard(*this);                                                                       \
+        setzeKopf(qbKlassen[qbIndex_##Klasse]);                                                              \
     }
 
 // saveGuts: stamp the current version literal, the base's record, then the own fields in table order.
 // restoreGuts: the base's record, then the own fields in table order, whatever the stored version.
-#define QB_FORMULAR_SPEICHERN(Klasse)                                                                       \
-    void Klasse::saveGuts(RWFile& f) const {                                                                \
-        stempele(qbKlassen[qbIndex_##Klasse].version);                                                      \
-        Basisklasse::saveGuts(f);                                                                           \
-        felder().schreibe(*this, f);                                                                        \
-    }                                                                                                       \
-    void Klasse::saveGuts(RWvostream& s) const {                                                            \
-        stempele(qbKlassen[qbIndex_##Klasse].version);                                                      \
-        Basisklasse::saveGuts(s);                                                                           \
-        felder().schreibe(*this, s);                                                                        \
+#define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
+    void Klasse::saveGuts(RWFile& f) const {                                                                 \
+        stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
+        Basisklasse::saveGuts(f);                                                                            \
+        felder().schreibe(*this, f);                                                                         \
+    }                                                                                                        \
+    void Klasse::saveGuts(RWvostream& s) const {                                                             \
+        stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
+        Basisklasse::saveGuts(s);                                                                            \
+        felder().schreibe(*this, s);                                                                         \
     }
-#define QB_FORMULAR_LADEN(Klasse)                                                                           \
-    void Klasse::restoreGuts(RWFile& f) {                                                                   \
-        Basisklasse::restoreGuts(f);                                                                        \
-        felder().lies(*this, f);                                                                            \
-    }                                                                                                       \
-    void Klasse::restoreGuts(RWvistream& s) {                                                               \
-        Basisklasse::restoreGuts(s);                                                                        \
-        felder().lies(*this, s);                                                                            \
+#define QB_FORMULAR_LADEN(Klasse)                                                                            \
+    void Klasse::restoreGuts(RWFile& f) {                                                                    \
+        Basisklasse::restoreGuts(f);                                                                         \
+        felder().lies(*this, f);                                                                             \
+    }                                                                                                        \
+    void Klasse::restoreGuts(RWvistream& s) {                                                                \
+        Basisklasse::restoreGuts(s);                                                                         \
+        felder().lies(*this, s);                                                                             \
     }
 
 // The base's figure plus the own fields' bytes.
-#define QB_FORMULAR_GROESSE(Klasse)                                                                         \
-    RWspace Klasse::binaryStoreSize() const { return Basisklasse::binaryStoreSize() + felder().groesse(*this); }
+#define QB_FORMULAR_GROESSE(Klasse)                                                                          \
+    RWspace Klasse::binaryStoreSize() const {                                                                \
+        return Basisklasse::binaryStoreSize() + felder().groesse(*this);                                     \
+    }
 
 // XMLgetDat: the node typed with the class name, the header in a nested node, then the own fields.
 // XMLputDat: only a node of the class's own type; the own keys, then the base's type set for the call of
 // qbFormular::XMLputDat, which reads the header only for a plain form, and the type set back.
-#define QB_FORMULAR_XML(Klasse)                                                                             \
-    void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                     \
-        knoten.clear(klassenName());                                                                        \
-        CQBXMLdata kopf("");                                                                                \
-        qbFormular::XMLgetDat(kopf);                                                                        \
-        knoten.add(kopf);                                                                                   \
-        felder().xmlSchreibe(*this, knoten);                                                                \
-    }                                                                                                       \
-    void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                            \
-        if (knoten.Typ() != klassenName()) return;                                                          \
-        felder().xmlLies(*this, knoten);                                                                    \
-        knoten.Typ(Basisklasse::klassenName());                                                             \
-        qbFormular::XMLputDat(knoten);                                                                      \
-        knoten.Typ(klassenName());                                                                          \
+#define QB_FORMULAR_XML(Klasse)                                                                              \
+    void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                       \
+        knoten.clear(klassenName());                                                                         \
+        CQBXMLdata kopf("");                                                                                 \
+        qbFormular::XMLgetDat(kopf);                                                                         \
+        knoten.add(kopf);                                                                                    \
+        felder().xmlSchreibe(*this, knoten);                                                                 \
+    }                                                                                                        \
+    void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                             \
+        if (knoten.Typ() != klassenName()) return;                                                           \
+        felder().xmlLies(*this, knoten);                                                                     \
+        knoten.Typ(Basisklasse::klassenName());                                                              \
+        qbFormular::XMLputDat(knoten);                                                                       \
+        knoten.Typ(klassenName());                                                                           \
     }
 
 // A fresh object of the class, assigned: every field and the whole header back to the class's defaults.
-#define QB_FORMULAR_LOESCHE(Klasse)                                                                         \
-    void Klasse::loesche() {                                                                                \
-        PersonenKennung = "";                                                                               \
-        *this = Klasse();                                                                                   \
+#define QB_FORMULAR_LOESCHE(Klasse)                                                                          \
+    void Klasse::loesche() {                                                                                 \
+        PersonenKennung = "";                                                                                \
+        *this = Klasse();                                                                                    \
     }
 
 // Everything by the family rule.
-#define QB_FORMULAR_ROUTINE(Klasse, Felder)                                                                 \
-    QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                                  \
-    QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                         \
-    QB_FORMULAR_SPEICHERN(Klasse)                                                                           \
-    QB_FORMULAR_LADEN(Klasse)                                                                               \
-    QB_FORMULAR_GROESSE(Klasse)                                                                             \
-    QB_FORMULAR_XML(Klasse)                                                                                 \
+#define QB_FORMULAR_ROUTINE(Klasse, Felder)                                                                  \
+    QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                                   \
+    QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                          \
+    QB_FORMULAR_SPEICHERN(Klasse)                                                                            \
+    QB_FORMULAR_LADEN(Klasse)                                                                                \
+    QB_FORMULAR_GROESSE(Klasse)                                                                              \
+    QB_FORMULAR_XML(Klasse)                                                                                  \
     QB_FORMULAR_LOESCHE(Klasse)

@@ -86,14 +86,18 @@ int personenIndex(const RWCString& kennung) {
 
 RWCString qbPersonenKennung(int person) {
     switch (person) {
-    case 0: return "VP1";
-    case 1: return "VP2";
-    default: return "VN";
+    case 0:
+        return "VP1";
+    case 1:
+        return "VP2";
+    default:
+        return "VN";
     }
 }
 
 qbFormularListe::qbFormularListe() : Version("05.1999") {
-    for (const auto& zeile : kKatalog) Katalog.insert(qbFormularInfo(zeile.nummer, zeile.name, zeile.seiten));
+    for (const auto& zeile : kKatalog)
+        Katalog.insert(qbFormularInfo(zeile.nummer, zeile.name, zeile.seiten));
 }
 
 qbFormularListe::qbFormularListe(const qbFormularListe& other) : Version(other.Version) {
@@ -122,7 +126,8 @@ void qbFormularListe::neuesFormular(qbFormular& form) {
         Formulare.insert(qbKopiere_qbFormular(form));
         return;
     }
-    if (klasse->listenart == qbListenart::Ersetzend) loescheFormular(nummer, personenIndex(form.RefPersonenKennung()));
+    if (klasse->listenart == qbListenart::Ersetzend)
+        loescheFormular(nummer, personenIndex(form.RefPersonenKennung()));
     Formulare.insert(klasse->kopiere(form));
 }
 
@@ -160,7 +165,8 @@ unsigned int qbFormularListe::liefereFormular(const RWCString& nummer, qbFormula
     return 0;
 }
 
-unsigned int qbFormularListe::liefereFormular(const RWCString&, qbFormular&, int, const RWCString&, int) const {
+unsigned int qbFormularListe::liefereFormular(const RWCString&, qbFormular&, int, const RWCString&,
+                                              int) const {
     return 0;
 }
 
@@ -205,7 +211,9 @@ void qbFormularListe::loescheGesundheitsFormulare(int person) {
         }
 }
 
-unsigned int qbFormularListe::AnzahlFormulare() const { return static_cast<unsigned int>(Formulare.entries()); }
+unsigned int qbFormularListe::AnzahlFormulare() const {
+    return static_cast<unsigned int>(Formulare.entries());
+}
 
 qbFormular* qbFormularListe::liefereFormularAnPos(int pos) {
     if (pos < 0 || static_cast<size_t>(pos) >= Formulare.entries()) return nullptr;
@@ -220,7 +228,8 @@ RWTValSlist<qbFormularInfo> qbFormularListe::RefDruckstueckeInfo() { return Kata
 
 RWTValSlist<RWCString> qbFormularListe::RefAlleDruckstueckNr() const {
     RWTValSlist<RWCString> nummern;
-    for (const qbFormularInfo& info : Katalog) nummern.insert(info.Nummer);
+    for (const qbFormularInfo& info : Katalog)
+        nummern.insert(info.Nummer);
     return nummern;
 }
 
@@ -315,8 +324,8 @@ void liesInListe(Strom& s, qbFormularListe& liste) {
     const bool verweis = liesMarke(s, gelesen, nummer);
     if (!gelesen) return;
     if (verweis) {
-        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() || tabelle->isCollectable(nummer) ||
-            (*tabelle)(static_cast<size_t>(nummer)) != &liste)
+        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() ||
+            tabelle->isCollectable(nummer) || (*tabelle)(static_cast<size_t>(nummer)) != &liste)
             falscherVerweis();
         return;
     }
@@ -376,10 +385,12 @@ template <class Strom>
 void qbLiesListe(Strom& s, qbFormularListe& liste) {
     liste.Version.restoreFrom(s);
     std::vector<RWCollectable*> vorher;
-    for (size_t i = 0; i < liste.Formulare.entries(); ++i) vorher.push_back(liste.Formulare.at(i));
+    for (size_t i = 0; i < liste.Formulare.entries(); ++i)
+        vorher.push_back(liste.Formulare.at(i));
     auto gibFrei = [&] {
         std::unordered_set<RWCollectable*> gehalten;
-        for (size_t i = 0; i < liste.Formulare.entries(); ++i) gehalten.insert(liste.Formulare.at(i));
+        for (size_t i = 0; i < liste.Formulare.entries(); ++i)
+            gehalten.insert(liste.Formulare.at(i));
         for (RWCollectable* alt : vorher)
             if (!gehalten.count(alt)) delete alt;
     };

@@ -53,9 +53,10 @@ public:
     unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person) const;
     unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person,
                                  const RWCString& extra1) const;
-    unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person, const RWCString& extra1,
-                                 const RWCString& extra2) const;
-    unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person, const RWCString& extra1,
+    unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person,
+                                 const RWCString& extra1, const RWCString& extra2) const;
+    unsigned int liefereFormular(const RWCString& nummer, qbFormular& form, int person,
+                                 const RWCString& extra1,
                                  int) const; // does nothing: returns 0
     bool FormularVorhanden(const RWCString& nummer, int person) const;
     bool FormularVorhanden(const RWCString& nummer, int person, const RWCString& extra1) const;

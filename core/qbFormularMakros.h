@@ -54,24 +54,24 @@
 #define QB_ZEILE_Person Person
 #define QB_ZEILE_Enum Enum
 
-#define QB_ZUGRIFF_WERT(T, Name)                                                                            \
-    T Ref##Name() const { return Name; }                                                                    \
+#define QB_ZUGRIFF_WERT(T, Name)                                                                             \
+    T Ref##Name() const { return Name; }                                                                     \
     void Ref##Name(T v) { Name = v; }
-#define QB_ZUGRIFF_REF(T, Name)                                                                             \
-    const T& Ref##Name() const { return Name; }                                                            \
+#define QB_ZUGRIFF_REF(T, Name)                                                                              \
+    const T& Ref##Name() const { return Name; }                                                              \
     void Ref##Name(const T& v) { Name = v; }
 
 #define QB_ZUGRIFF_Text(Name) QB_ZUGRIFF_REF(RWCString, Name)
 #define QB_ZUGRIFF_TextKopie(Name) QB_ZUGRIFF_WERT(RWCString, Name)
-#define QB_ZUGRIFF_TextWert(Name)                                                                           \
-    const RWCString& Ref##Name() const { return Name; }                                                    \
+#define QB_ZUGRIFF_TextWert(Name)                                                                            \
+    const RWCString& Ref##Name() const { return Name; }                                                      \
     void Ref##Name(RWCString v) { Name = v; }
 #define QB_ZUGRIFF_Flag(Name) QB_ZUGRIFF_WERT(unsigned char, Name)
 #define QB_ZUGRIFF_Char(Name) QB_ZUGRIFF_WERT(char, Name)
 #define QB_ZUGRIFF_Bool(Name) QB_ZUGRIFF_WERT(bool, Name)
 #define QB_ZUGRIFF_Int(Name) QB_ZUGRIFF_WERT(int, Name)
-#define QB_ZUGRIFF_IntKonstRef(Name)                                                                        \
-    int Ref##Name() const { return Name; }                                                                  \
+#define QB_ZUGRIFF_IntKonstRef(Name)                                                                         \
+    int Ref##Name() const { return Name; }                                                                   \
     void Ref##Name(const int& v) { Name = v; }
 #define QB_ZUGRIFF_Long(Name) QB_ZUGRIFF_WERT(long, Name)
 #define QB_ZUGRIFF_Double(Name) QB_ZUGRIFF_WERT(double, Name)
@@ -86,33 +86,31 @@
 
 // ---- In the class body
 
-#define QB_FORMULAR(Klasse, Basis, Felder)                                                                  \
-public:                                                                                                     \
-    using Basisklasse = Basis;                                                                              \
-    Klasse();                                                                                               \
-    Klasse(const Klasse& other);                                                                            \
-    Klasse& operator=(const Klasse& other);                                                                 \
-    ~Klasse() override;                                                                                     \
-    RWCollectable* newSpecies() const override;                                                             \
-    RWCollectable* copy() const override;                                                                   \
-    RWClassID isA() const override;                                                                         \
-    RWspace binaryStoreSize() const override;                                                               \
-    void restoreGuts(RWvistream& s) override;                                                               \
-    void restoreGuts(RWFile& f) override;                                                                   \
-    void saveGuts(RWvostream& s) const override;                                                            \
-    void saveGuts(RWFile& f) const override;                                                                \
-    void loesche() override;                                                                                \
-    void XMLgetDat(CQBXMLdata& knoten) const;                                                               \
-    void XMLputDat(CQBXMLdata& knoten);                                                                     \
-    static unsigned short classIsA();                                                                       \
-    static unsigned short myAtom;                                                                           \
-    static const char* klassenName() { return #Klasse; }                                                   \
-    /* The field table: the rows of Felder, in stream order. */                                            \
-    static const qbFeldTabelle& felder();                                                                   \
-    Felder(QB_FELD_ZUGRIFF)                                                                                 \
-                                                                                                            \
-protected:                                                                                                  \
-    Felder(QB_FELD_MITGLIED)                                                                                \
-                                                                                                            \
-public:
-
+#define QB_FORMULAR(Klasse, Basis, Felder)                                                                   \
+public:                                                                                                      \
+    using Basisklasse = Basis;                                                                               \
+    Klasse();                                                                                                \
+    Klasse(const Klasse& other);                                                                             \
+    Klasse& operator=(const Klasse& other);                                                                  \
+    ~Klasse() override;                                                                                      \
+    RWCollectable* newSpecies() const override;                                                              \
+    RWCollectable* copy() const override;                                                                    \
+    RWClassID isA() const override;                                                                          \
+    RWspace binaryStoreSize() const override;                                                                \
+    void restoreGuts(RWvistream& s) override;                                                                \
+    void restoreGuts(RWFile& f) override;                                                                    \
+    void saveGuts(RWvostream& s) const override;                                                             \
+    void saveGuts(RWFile& f) const override;                                                                 \
+    void loesche() override;                                                                                 \
+    void XMLgetDat(CQBXMLdata& knoten) const;                                                                \
+    void XMLputDat(CQBXMLdata& knoten);                                                                      \
+    static unsigned short classIsA();                                                                        \
+    static unsigned short myAtom;                                                                            \
+    static const char* klassenName() { return #Klasse; }                                                     \
+    /* The field table: the rows of Felder, in stream order. */                                              \
+    static const qbFeldTabelle& felder();                                                                    \
+    Felder(QB_FELD_ZUGRIFF)                                                                                  \
+                                                                                                             \
+        protected : Felder(QB_FELD_MITGLIED)                                                                 \
+                                                                                                             \
+                        public:

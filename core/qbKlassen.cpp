@@ -5,23 +5,23 @@
 
 #include <cstring>
 
-#define QB_KLASSE(Id, Klasse, Basis, Nummer, Name, Version, Seiten, Person, Listenart, Suche, Xml, Kopie)  \
-    {Id,                                                                                                    \
-     #Klasse,                                                                                               \
-     #Basis,                                                                                                \
-     Nummer,                                                                                                \
-     Name,                                                                                                  \
-     Version,                                                                                               \
-     Seiten,                                                                                                \
-     Person,                                                                                                \
-     qbListenart::Listenart,                                                                                \
-     &Suche,                                                                                                \
-     Xml,                                                                                                   \
+#define QB_KLASSE(Id, Klasse, Basis, Nummer, Name, Version, Seiten, Person, Listenart, Suche, Xml, Kopie)    \
+    {Id,                                                                                                     \
+     #Klasse,                                                                                                \
+     #Basis,                                                                                                 \
+     Nummer,                                                                                                 \
+     Name,                                                                                                   \
+     Version,                                                                                                \
+     Seiten,                                                                                                 \
+     Person,                                                                                                 \
+     qbListenart::Listenart,                                                                                 \
+     &Suche,                                                                                                 \
+     Xml,                                                                                                    \
      &qbFelder_##Klasse,                                                                                     \
-     &qbErzeuge_##Klasse,                                                                                   \
-     &qbKopiere_##Kopie,                                                                                    \
-     &qbZuweise_##Klasse,                                                                                   \
-     &qbAusXml_##Klasse,                                                                                    \
+     &qbErzeuge_##Klasse,                                                                                    \
+     &qbKopiere_##Kopie,                                                                                     \
+     &qbZuweise_##Klasse,                                                                                    \
+     &qbAusXml_##Klasse,                                                                                     \
      &qbZuXml_##Klasse},
 const qbKlasse qbKlassen[qbKlassenAnzahl] = {
 #include "core/qbKlassen.def"
@@ -65,7 +65,8 @@ const qbKlasse* qbKlasseZuId(RWClassID id) {
 }
 
 void qbKlassenAnmelden() {
-    for (const qbKlasse& k : qbKlassen) rwAddToFactory(k.erzeuge, k.id, RWStringID(k.klassenName));
+    for (const qbKlasse& k : qbKlassen)
+        rwAddToFactory(k.erzeuge, k.id, RWStringID(k.klassenName));
 }
 
 // In reverse order of registration, each class first by id and then by string id.

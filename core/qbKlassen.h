@@ -20,8 +20,8 @@ enum class qbListenart : unsigned char {
 struct qbSuchregel {
     // Fills the probe from the two extra strings of a search; null leaves the default object.
     void (*fuelleSonde)(qbFormular& sonde, const RWCString& extra1, const RWCString& extra2);
-    bool personBeimLiefern; // liefereFormular gives the probe the caller's person
-    bool personBeimSuchen;  // FormularVorhanden and loescheFormular do
+    bool personBeimLiefern;    // liefereFormular gives the probe the caller's person
+    bool personBeimSuchen;     // FormularVorhanden and loescheFormular do
     const char* const* aliase; // further numbers that liefereFormular alone knows; null-terminated, or null
 };
 
@@ -90,37 +90,41 @@ void qbKlassenAnmelden();
 void qbKlassenAbmelden();
 
 // Entry points of one class for the table, defined beside the class by QB_KLASSEN_EINSTIEG.
-#define QB_KLASSE(Id, Klasse, ...)                                                                          \
-    RWCollectable* qbErzeuge_##Klasse();                                                                    \
-    const qbFeldTabelle& qbFelder_##Klasse();                                                               \
-    qbFormular* qbKopiere_##Klasse(const qbFormular&);                                                      \
-    void qbZuweise_##Klasse(qbFormular&, const qbFormular&);                                                \
-    qbFormular* qbAusXml_##Klasse(CQBXMLdata&);                                                             \
+#define QB_KLASSE(Id, Klasse, ...)                                                                           \
+    RWCollectable* qbErzeuge_##Klasse();                                                                     \
+    const qbFeldTabelle& qbFelder_##Klasse();                                                                \
+    qbFormular* qbKopiere_##Klasse(const qbFormular&);                                                       \
+    void qbZuweise_##Klasse(qbFormular&, const qbFormular&);                                                 \
+    qbFormular* qbAusXml_##Klasse(CQBXMLdata&);                                                              \
     void qbZuXml_##Klasse(const qbFormular&, CQBXMLdata&);
 #include "core/qbKlassen.def"
 #undef QB_KLASSE
 
-#define QB_KLASSEN_EINSTIEG(Klasse)                                                                         \
-    RWCollectable* qbErzeuge_##Klasse() { return new Klasse; }                                             \
-    const qbFeldTabelle& qbFelder_##Klasse() { return Klasse::felder(); }                                  \
-    qbFormular* qbKopiere_##Klasse(const qbFormular& form) {                                                \
-        if (const Klasse* gleich = dynamic_cast<const Klasse*>(&form)) return new Klasse(*gleich);          \
-        Klasse* neu = new Klasse;                                                                           \
-        neu->qbFormular::operator=(form);                                                                   \
-        return neu;                                                                                         \
-    }                                                                                                       \
-    void qbZuweise_##Klasse(qbFormular& ziel, const qbFormular& quelle) {                                   \
-        Klasse* z = dynamic_cast<Klasse*>(&ziel);                                                           \
-        const Klasse* q = dynamic_cast<const Klasse*>(&quelle);                                             \
-        if (z && q) *z = *q;                                                                                \
-        else ziel.qbFormular::operator=(quelle);                                                            \
-    }                                                                                                       \
-    qbFormular* qbAusXml_##Klasse(CQBXMLdata& knoten) {                                                     \
-        Klasse* neu = new Klasse;                                                                           \
-        neu->XMLputDat(knoten);                                                                             \
-        return neu;                                                                                         \
-    }                                                                                                       \
-    void qbZuXml_##Klasse(const qbFormular& form, CQBXMLdata& knoten) {                                    \
-        if (const Klasse* k = dynamic_cast<const Klasse*>(&form)) k->XMLgetDat(knoten);                     \
-        else form.qbFormular::XMLgetDat(knoten);                                                            \
+#define QB_KLASSEN_EINSTIEG(Klasse)                                                                          \
+    RWCollectable* qbErzeuge_##Klasse() { return new Klasse; }                                               \
+    const qbFeldTabelle& qbFelder_##Klasse() { return Klasse::felder(); }                                    \
+    qbFormular* qbKopiere_##Klasse(const qbFormular& form) {                                                 \
+        if (const Klasse* gleich = dynamic_cast<const Klasse*>(&form)) return new Klasse(*gleich);           \
+        Klasse* neu = new Klasse;                                                                            \
+        neu->qbFormular::operator=(form);                                                                    \
+        return neu;                                                                                          \
+    }                                                                                                        \
+    void qbZuweise_##Klasse(qbFormular& ziel, const qbFormular& quelle) {                                    \
+        Klasse* z = dynamic_cast<Klasse*>(&ziel);                                                            \
+        const Klasse* q = dynamic_cast<const Klasse*>(&quelle);                                              \
+        if (z && q)                                                                                          \
+            *z = *q;                                                                                         \
+        else                                                                                                 \
+            ziel.qbFormular::operator=(quelle);                                                              \
+    }                                                                                                        \
+    qbFormular* qbAusXml_##Klasse(CQBXMLdata& knoten) {                                                      \
+        Klasse* neu = new Klasse;                                                                            \
+        neu->XMLputDat(knoten);                                                                              \
+        return neu;                                                                                          \
+    }                                                                                                        \
+    void qbZuXml_##Klasse(const qbFormular& form, CQBXMLdata& knoten) {                                      \
+        if (const Klasse* k = dynamic_cast<const Klasse*>(&form))                                            \
+            k->XMLgetDat(knoten);                                                                            \
+        else                                                                                                 \
+            form.qbFormular::XMLgetDat(knoten);                                                              \
     }

@@ -54,8 +54,9 @@ int main(int argc, char** argv) {
     for (unsigned i = 0; i < gelesen.AnzahlFormulare(); ++i) {
         const qbFormular* f = gelesen.liefereFormularAnPos(static_cast<int>(i));
         const qbKlasse* k = qbKlasseZuId(f->isA());
-        std::printf("%-4u %-22s %-6s %-4s %-8s %s\n", i, k ? k->klassenName : "?", f->RefDruckstueckNummer().data(),
-                    f->RefPersonenKennung().data(), f->RefVersion().data(), utf8(f->RefDruckstueckName()).c_str());
+        std::printf("%-4u %-22s %-6s %-4s %-8s %s\n", i, k ? k->klassenName : "?",
+                    f->RefDruckstueckNummer().data(), f->RefPersonenKennung().data(), f->RefVersion().data(),
+                    utf8(f->RefDruckstueckName()).c_str());
     }
 
     CQBXMLdata knoten("");

@@ -22,7 +22,9 @@ void qbFormularAllgGesu::saveGuts(RWvostream& s) const {
     felder().schreibe(*this, s);
 }
 
-bool qbFormularAllgGesu::mitArbeitsplatzwechsel(int schluessel) { return schluessel >= 200205 || schluessel == 200111; }
+bool qbFormularAllgGesu::mitArbeitsplatzwechsel(int schluessel) {
+    return schluessel >= 200205 || schluessel == 200111;
+}
 
 // Before 12.2000 a Flag, an Int and a Text followed the common answers; they are read and dropped. Records
 // of "10.1999" and "01.2000" have keys below that too, so they lose the triple right behind the header.
@@ -32,7 +34,8 @@ template <class Strom>
 void qbFormularAllgGesu::liesGespeichert(Strom& s) {
     qbFormular::restoreGuts(s);
     if (!hatFruehesLayout()) felder().lies(*this, s);
-    if (versionsSchluessel() < 200012) qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {&felder()});
+    if (versionsSchluessel() < 200012)
+        qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {&felder()});
 }
 
 void qbFormularAllgGesu::restoreGuts(RWFile& f) { liesGespeichert(f); }
@@ -63,15 +66,32 @@ RWCString qbFormularAllgGesu::DauerPhrase(int dauer, Numerus numerus) {
     const char* verb = einzahl ? "hat " : "haben ";
     const char* zeitraum;
     switch (dauer) {
-    case 1: zeitraum = "1 Woche"; break;
-    case 2: zeitraum = "2 Wochen"; break;
-    case 3: zeitraum = "3 Wochen"; break;
-    case 4: zeitraum = "1 Monat"; break;
-    case 8: zeitraum = "2 Monate"; break;
-    case 12: zeitraum = "3 Monate"; break;
-    case 24: zeitraum = "6 Monate"; break;
-    case 28: zeitraum = "länger als 6 Monate"; break;
-    default: return einzahl ? "dauert noch an; " : "dauern noch an; "; // -1, 0 and every other code
+    case 1:
+        zeitraum = "1 Woche";
+        break;
+    case 2:
+        zeitraum = "2 Wochen";
+        break;
+    case 3:
+        zeitraum = "3 Wochen";
+        break;
+    case 4:
+        zeitraum = "1 Monat";
+        break;
+    case 8:
+        zeitraum = "2 Monate";
+        break;
+    case 12:
+        zeitraum = "3 Monate";
+        break;
+    case 24:
+        zeitraum = "6 Monate";
+        break;
+    case 28:
+        zeitraum = "länger als 6 Monate";
+        break;
+    default:
+        return einzahl ? "dauert noch an; " : "dauern noch an; "; // -1, 0 and every other code
     }
     return RWCString(verb) + zeitraum + " angedauert; ";
 }

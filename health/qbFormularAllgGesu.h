@@ -5,23 +5,23 @@
 #include "core/qbFormularMakros.h"
 
 // Fields 13 and 14 came with 11.2001, left the 12.2001 to 04.2002 records and came back with 05.2002.
-#define QB_FELDER_qbFormularAllgGesu(FELD)                                                                  \
-    FELD(Text, Krankheit)                                                                                   \
-    FELD(TextKopie, AntwortZuFrage, .ohneLaengeInGroesse())                                                 \
-    FELD(Text, Beginn)                                                                                      \
-    FELD(Int, Dauer, .standard(-1))                                                                         \
-    FELD(Text, ArztAdresse)                                                                                 \
-    FELD(Flag, KrankenhausJN)                                                                               \
-    FELD(Flag, KurJN)                                                                                       \
-    FELD(Text, KrankenhausKur)                                                                              \
-    FELD(Text, AdresseKrankenhausKurstaette)                                                                \
-    FELD(Text, AdresseWeitererArzt)                                                                         \
-    FELD(Text, DatumBehandlungWeitererArzt)                                                                 \
-    FELD(Text, ErkrankungWeitererArzt)                                                                      \
-    FELD(Flag, ArbeitsplatzwechselJN, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))             \
-    FELD(Text, DatumArbeitsplatzwechsel, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))          \
-    FELD(Flag, ArbeitsunfaehigJN)                                                                           \
-    FELD(Text, DatumArbeitsunfaehigkeit)                                                                    \
+#define QB_FELDER_qbFormularAllgGesu(FELD)                                                                   \
+    FELD(Text, Krankheit)                                                                                    \
+    FELD(TextKopie, AntwortZuFrage, .ohneLaengeInGroesse())                                                  \
+    FELD(Text, Beginn)                                                                                       \
+    FELD(Int, Dauer, .standard(-1))                                                                          \
+    FELD(Text, ArztAdresse)                                                                                  \
+    FELD(Flag, KrankenhausJN)                                                                                \
+    FELD(Flag, KurJN)                                                                                        \
+    FELD(Text, KrankenhausKur)                                                                               \
+    FELD(Text, AdresseKrankenhausKurstaette)                                                                 \
+    FELD(Text, AdresseWeitererArzt)                                                                          \
+    FELD(Text, DatumBehandlungWeitererArzt)                                                                  \
+    FELD(Text, ErkrankungWeitererArzt)                                                                       \
+    FELD(Flag, ArbeitsplatzwechselJN, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))              \
+    FELD(Text, DatumArbeitsplatzwechsel, .liesNurWenn(qbFormularAllgGesu::mitArbeitsplatzwechsel))           \
+    FELD(Flag, ArbeitsunfaehigJN)                                                                            \
+    FELD(Text, DatumArbeitsunfaehigkeit)                                                                     \
     FELD(Text, ErkrankungArbeitsunfaehigkeit)
 
 class qbFormularAllgGesu : public qbFormular {

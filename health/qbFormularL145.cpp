@@ -12,21 +12,55 @@ QB_FORMULAR_LOESCHE(qbFormularL145)
 
 // "10.1999", and "01.2000" with AntwortZuFrage behind it: the common answers stand between the own
 // fields, with a Text, and a Flag, an Int and a Text, that no longer exist.
-static constexpr qbSchritt layout1999[] = {
-    "Verletzungshergang", "Verletzung", "ArztAdresse", "KrankenhausJN", "KurJN", "KrankenhausKur",
-    "AdresseKrankenhausKurstaette", qbVerworfen::Text, "GeheiltJN", "GeheiltSeit", "Beschwerden", "OperationJN",
-    "Operation", "RehaJN", "Reha", "DauerfolgenJN", "Dauerfolgen", "AdresseWeitererArzt",
-    "DatumBehandlungWeitererArzt", "ErkrankungWeitererArzt", "ArbeitsunfaehigJN", "DatumArbeitsunfaehigkeit",
-    "ErkrankungArbeitsunfaehigkeit", qbVerworfen::Flag, qbVerworfen::Int, qbVerworfen::Text, "Koerperhaelfte",
-    "Beginn", "Dauer", "Krankheit"};
+static constexpr qbSchritt layout1999[] = {"Verletzungshergang",
+                                           "Verletzung",
+                                           "ArztAdresse",
+                                           "KrankenhausJN",
+                                           "KurJN",
+                                           "KrankenhausKur",
+                                           "AdresseKrankenhausKurstaette",
+                                           qbVerworfen::Text,
+                                           "GeheiltJN",
+                                           "GeheiltSeit",
+                                           "Beschwerden",
+                                           "OperationJN",
+                                           "Operation",
+                                           "RehaJN",
+                                           "Reha",
+                                           "DauerfolgenJN",
+                                           "Dauerfolgen",
+                                           "AdresseWeitererArzt",
+                                           "DatumBehandlungWeitererArzt",
+                                           "ErkrankungWeitererArzt",
+                                           "ArbeitsunfaehigJN",
+                                           "DatumArbeitsunfaehigkeit",
+                                           "ErkrankungArbeitsunfaehigkeit",
+                                           qbVerworfen::Flag,
+                                           qbVerworfen::Int,
+                                           qbVerworfen::Text,
+                                           "Koerperhaelfte",
+                                           "Beginn",
+                                           "Dauer",
+                                           "Krankheit"};
 static constexpr qbSchritt layout2000Zusatz[] = {"AntwortZuFrage"};
 
 // Before 10.2002; VerletzteOrgane and VerletzteGelenke from 05.2002. The Text behind Verletzung is a
 // field that no longer exists.
-static constexpr qbSchritt layoutVor200210[] = {
-    "Verletzungshergang", qbSchritt("VerletzteOrgane").ab(200205), qbSchritt("VerletzteGelenke").ab(200205),
-    "Verletzung", qbVerworfen::Text, "GeheiltJN", "GeheiltSeit", "Beschwerden", "OperationJN", "Operation", "RehaJN",
-    "Reha", "DauerfolgenJN", "Dauerfolgen", "Koerperhaelfte"};
+static constexpr qbSchritt layoutVor200210[] = {"Verletzungshergang",
+                                                qbSchritt("VerletzteOrgane").ab(200205),
+                                                qbSchritt("VerletzteGelenke").ab(200205),
+                                                "Verletzung",
+                                                qbVerworfen::Text,
+                                                "GeheiltJN",
+                                                "GeheiltSeit",
+                                                "Beschwerden",
+                                                "OperationJN",
+                                                "Operation",
+                                                "RehaJN",
+                                                "Reha",
+                                                "DauerfolgenJN",
+                                                "Dauerfolgen",
+                                                "Koerperhaelfte"};
 
 template <class Strom>
 void qbFormularL145::liesGespeichert(Strom& s) {
@@ -46,6 +80,6 @@ void qbFormularL145::restoreGuts(RWFile& f) { liesGespeichert(f); }
 void qbFormularL145::restoreGuts(RWvistream& s) { liesGespeichert(s); }
 
 RWCString qbFormularL145::AntwortFrage1() const {
-    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Verletzungshergang + " " + VerletzteOrgane +
-           " " + VerletzteGelenke + " ";
+    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Verletzungshergang + " " +
+           VerletzteOrgane + " " + VerletzteGelenke + " ";
 }

@@ -18,14 +18,43 @@ qbFormularL146::qbFormularL146() {
 
 // "10.1999", and "01.2000" with AntwortZuFrage behind it: the common answers stand between the own
 // fields, with a Flag, an Int and a Text that no longer exist.
-static constexpr qbSchritt layout1999[] = {
-    "Beginn", "Dauer", "Frage1", "DeswegenArbeitsunfaehigJN", "DauerArbeitsunfaehig", "Wirbelsaeulenabschnitt",
-    "Diagnose", "ArztAdresse", "KrankenhausJN", "KurJN", "KrankenhausKur", "AdresseKrankenhausKurstaette",
-    "RoentgenJN", "DatumRoentgen", "OperationJN", "Operation", "Verordnung", "SonstigeVerordnung",
-    "EinzelheitenVerordnung", "Medikamente", "GeheiltJN", "GeheiltSeit", "Beschwerden", "OperationGeplantJN",
-    "GeplanteOperation", "RehaJN", "Reha", "AdresseWeitererArzt", "DatumBehandlungWeitererArzt",
-    "ErkrankungWeitererArzt", "ArbeitsunfaehigJN", "DatumArbeitsunfaehigkeit", "ErkrankungArbeitsunfaehigkeit",
-    qbVerworfen::Flag, qbVerworfen::Int, qbVerworfen::Text, "Krankheit"};
+static constexpr qbSchritt layout1999[] = {"Beginn",
+                                           "Dauer",
+                                           "Frage1",
+                                           "DeswegenArbeitsunfaehigJN",
+                                           "DauerArbeitsunfaehig",
+                                           "Wirbelsaeulenabschnitt",
+                                           "Diagnose",
+                                           "ArztAdresse",
+                                           "KrankenhausJN",
+                                           "KurJN",
+                                           "KrankenhausKur",
+                                           "AdresseKrankenhausKurstaette",
+                                           "RoentgenJN",
+                                           "DatumRoentgen",
+                                           "OperationJN",
+                                           "Operation",
+                                           "Verordnung",
+                                           "SonstigeVerordnung",
+                                           "EinzelheitenVerordnung",
+                                           "Medikamente",
+                                           "GeheiltJN",
+                                           "GeheiltSeit",
+                                           "Beschwerden",
+                                           "OperationGeplantJN",
+                                           "GeplanteOperation",
+                                           "RehaJN",
+                                           "Reha",
+                                           "AdresseWeitererArzt",
+                                           "DatumBehandlungWeitererArzt",
+                                           "ErkrankungWeitererArzt",
+                                           "ArbeitsunfaehigJN",
+                                           "DatumArbeitsunfaehigkeit",
+                                           "ErkrankungArbeitsunfaehigkeit",
+                                           qbVerworfen::Flag,
+                                           qbVerworfen::Int,
+                                           qbVerworfen::Text,
+                                           "Krankheit"};
 static constexpr qbSchritt layout2000Zusatz[] = {"AntwortZuFrage"};
 
 template <class Strom>

@@ -6,9 +6,9 @@
 
 // ArztAdresse and Beginn are fields of their own beside the common ones of the same names, which they
 // hide; both travel in the record.
-#define QB_FELDER_qbFormularL147(FELD)                                                                      \
-    FELD(Text, ArztAdresse)                                                                                 \
-    FELD(Text, Beginn)                                                                                      \
+#define QB_FELDER_qbFormularL147(FELD)                                                                       \
+    FELD(Text, ArztAdresse)                                                                                  \
+    FELD(Text, Beginn)                                                                                       \
     FELD(Text, Medikamente)
 
 class qbFormularL147 : public qbFormularAllgGesu {

@@ -4,20 +4,20 @@
 
 #include "core/qbFormularMakros.h"
 
-#define QB_FELDER_qbFormularL440(FELD)                                                                      \
-    FELD(Text, Kampfsportarten)                                                                             \
-    FELD(Flag, haeufig13JN)                                                                                 \
-    FELD(Flag, haeufig4JN)                                                                                  \
-    FELD(Flag, FreizeitsportJN)                                                                             \
-    FELD(Flag, hauptberuflichJN)                                                                            \
-    FELD(Flag, BerufssportlerJN)                                                                            \
-    FELD(Flag, TurniereJN)                                                                                  \
-    FELD(Flag, NonKontaktJN)                                                                                \
-    FELD(Flag, SemikontaktJN)                                                                               \
-    FELD(Flag, LeichtkontaktJN)                                                                             \
-    FELD(Flag, VollkontaktJN)                                                                               \
-    FELD(Flag, SicherheitsausruestungJN)                                                                    \
-    FELD(Flag, verletztJN)                                                                                  \
+#define QB_FELDER_qbFormularL440(FELD)                                                                       \
+    FELD(Text, Kampfsportarten)                                                                              \
+    FELD(Flag, haeufig13JN)                                                                                  \
+    FELD(Flag, haeufig4JN)                                                                                   \
+    FELD(Flag, FreizeitsportJN)                                                                              \
+    FELD(Flag, hauptberuflichJN)                                                                             \
+    FELD(Flag, BerufssportlerJN)                                                                             \
+    FELD(Flag, TurniereJN)                                                                                   \
+    FELD(Flag, NonKontaktJN)                                                                                 \
+    FELD(Flag, SemikontaktJN)                                                                                \
+    FELD(Flag, LeichtkontaktJN)                                                                              \
+    FELD(Flag, VollkontaktJN)                                                                                \
+    FELD(Flag, SicherheitsausruestungJN)                                                                     \
+    FELD(Flag, verletztJN)                                                                                   \
     FELD(Text, WannWelcheFolgen)
 
 class qbFormularL440 : public qbFormular {

@@ -19,18 +19,22 @@ using namespace qbtest;
 
 namespace {
 
-std::string klassenNamen(const ::testing::TestParamInfo<const qbKlasse*>& info) { return info.param->klassenName; }
+std::string klassenNamen(const ::testing::TestParamInfo<const qbKlasse*>& info) {
+    return info.param->klassenName;
+}
 
 std::vector<const qbKlasse*> alleKlassen() {
     std::vector<const qbKlasse*> alle;
-    for (const qbKlasse& k : qbKlassen) alle.push_back(&k);
+    for (const qbKlasse& k : qbKlassen)
+        alle.push_back(&k);
     return alle;
 }
 
 // The tables of a class and of its bases, the header last.
 std::vector<const qbFeldTabelle*> kette(const qbKlasse& k) {
     std::vector<const qbFeldTabelle*> tabellen;
-    for (const qbKlasse* c = &k; c; c = qbKlasseZuName(c->basisName)) tabellen.push_back(&c->felder());
+    for (const qbKlasse* c = &k; c; c = qbKlasseZuName(c->basisName))
+        tabellen.push_back(&c->felder());
     return tabellen;
 }
 
@@ -41,38 +45,68 @@ std::unique_ptr<qbFormular> erzeuge(const qbKlasse& k) {
 RWCString zufallsText(std::mt19937& zufall) {
     std::uniform_int_distribution<int> laenge(0, 24), zeichen(0x20, 0xFF);
     std::string s(static_cast<size_t>(laenge(zufall)), ' ');
-    for (char& c : s) c = static_cast<char>(zeichen(zufall));
+    for (char& c : s)
+        c = static_cast<char>(zeichen(zufall));
     return RWCString(s);
 }
 
 void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall) {
     std::uniform_int_distribution<int> ganz(INT32_MIN, INT32_MAX), byte(0, 255);
     switch (z.art) {
-    case qbArt::Text: f.*z.mitglied.text = zufallsText(zufall); break;
-    case qbArt::Flag: f.*z.mitglied.flag = static_cast<unsigned char>(byte(zufall)); break;
-    case qbArt::Char: f.*z.mitglied.zeichen = static_cast<char>(byte(zufall)); break;
-    case qbArt::Bool: f.*z.mitglied.wahrheit = byte(zufall) & 1; break;
-    case qbArt::Int: f.*z.mitglied.ganz = ganz(zufall); break;
-    case qbArt::Enum: f.*z.mitglied.ganz = static_cast<signed char>(byte(zufall)); break;
-    case qbArt::Long: f.*z.mitglied.lang = ganz(zufall); break;
-    case qbArt::Double: f.*z.mitglied.zahl = std::uniform_real_distribution<double>(-1e9, 1e9)(zufall); break;
-    case qbArt::Date: (f.*z.mitglied.datum).julian(static_cast<unsigned>(ganz(zufall))); break;
-    case qbArt::Person: (f.*z.mitglied.person).RefGebDat(zufallsText(zufall)); break;
+    case qbArt::Text:
+        f.*z.mitglied.text = zufallsText(zufall);
+        break;
+    case qbArt::Flag:
+        f.*z.mitglied.flag = static_cast<unsigned char>(byte(zufall));
+        break;
+    case qbArt::Char:
+        f.*z.mitglied.zeichen = static_cast<char>(byte(zufall));
+        break;
+    case qbArt::Bool:
+        f.*z.mitglied.wahrheit = byte(zufall) & 1;
+        break;
+    case qbArt::Int:
+        f.*z.mitglied.ganz = ganz(zufall);
+        break;
+    case qbArt::Enum:
+        f.*z.mitglied.ganz = static_cast<signed char>(byte(zufall));
+        break;
+    case qbArt::Long:
+        f.*z.mitglied.lang = ganz(zufall);
+        break;
+    case qbArt::Double:
+        f.*z.mitglied.zahl = std::uniform_real_distribution<double>(-1e9, 1e9)(zufall);
+        break;
+    case qbArt::Date:
+        (f.*z.mitglied.datum).julian(static_cast<unsigned>(ganz(zufall)));
+        break;
+    case qbArt::Person:
+        (f.*z.mitglied.person).RefGebDat(zufallsText(zufall));
+        break;
     }
 }
 
 std::string wert(const qbFeld& z, const qbFormular& f) {
     switch (z.art) {
-    case qbArt::Text: return hex(bytesOf((f.*z.mitglied.text).std()));
-    case qbArt::Flag: return std::to_string(f.*z.mitglied.flag);
-    case qbArt::Char: return std::to_string(f.*z.mitglied.zeichen);
-    case qbArt::Bool: return std::to_string(f.*z.mitglied.wahrheit);
+    case qbArt::Text:
+        return hex(bytesOf((f.*z.mitglied.text).std()));
+    case qbArt::Flag:
+        return std::to_string(f.*z.mitglied.flag);
+    case qbArt::Char:
+        return std::to_string(f.*z.mitglied.zeichen);
+    case qbArt::Bool:
+        return std::to_string(f.*z.mitglied.wahrheit);
     case qbArt::Int:
-    case qbArt::Enum: return std::to_string(f.*z.mitglied.ganz);
-    case qbArt::Long: return std::to_string(f.*z.mitglied.lang);
-    case qbArt::Double: return std::to_string(f.*z.mitglied.zahl);
-    case qbArt::Date: return std::to_string((f.*z.mitglied.datum).julian());
-    case qbArt::Person: return (f.*z.mitglied.person).RefGebDat().std();
+    case qbArt::Enum:
+        return std::to_string(f.*z.mitglied.ganz);
+    case qbArt::Long:
+        return std::to_string(f.*z.mitglied.lang);
+    case qbArt::Double:
+        return std::to_string(f.*z.mitglied.zahl);
+    case qbArt::Date:
+        return std::to_string((f.*z.mitglied.datum).julian());
+    case qbArt::Person:
+        return (f.*z.mitglied.person).RefGebDat().std();
     }
     return {};
 }
@@ -83,14 +117,16 @@ std::unique_ptr<qbFormular> zufallsFormular(const qbKlasse& k, unsigned saat) {
     std::mt19937 zufall(saat);
     auto form = erzeuge(k);
     for (const qbFeldTabelle* t : kette(k))
-        for (const qbFeld& z : *t) fuelleZufaellig(z, *form, zufall);
+        for (const qbFeld& z : *t)
+            fuelleZufaellig(z, *form, zufall);
     form->RefVersion(*k.version ? k.version : "10.2002");
     return form;
 }
 
 void erwarteGleich(const qbKlasse& k, const qbFormular& a, const qbFormular& b, const std::string& wo) {
     for (const qbFeldTabelle* t : kette(k))
-        for (const qbFeld& z : *t) EXPECT_EQ(wert(z, a), wert(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
+        for (const qbFeld& z : *t)
+            EXPECT_EQ(wert(z, a), wert(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
 }
 
 // Bytes of saveGuts(RWFile&) alone.
@@ -107,7 +143,8 @@ size_t gespeicherteBytes(const qbFormular& form) {
 // on purpose.
 size_t erwarteteGroesse(const qbFormular& form, size_t bytes) {
     // The health family leaves the characters of AntwortZuFrage out of the sum.
-    if (const auto* gesu = dynamic_cast<const qbFormularAllgGesu*>(&form)) return bytes - gesu->RefAntwortZuFrage().length();
+    if (const auto* gesu = dynamic_cast<const qbFormularAllgGesu*>(&form))
+        return bytes - gesu->RefAntwortZuFrage().length();
     return bytes;
 }
 
@@ -148,7 +185,8 @@ TEST_P(JedeKlasse, BinaryStoreSizeCountsTheBytesSaveGutsWrites) {
     EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(*leer, gespeicherteBytes(*leer)));
     for (unsigned saat = 1; saat <= 5; ++saat) {
         auto form = zufallsFormular(k, saat);
-        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(*form, gespeicherteBytes(*form))) << "seed " << saat;
+        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(*form, gespeicherteBytes(*form)))
+            << "seed " << saat;
     }
 }
 
@@ -192,7 +230,8 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
         }
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
-        erwarteGleich(k, *form, static_cast<const qbFormular&>(*gelesen), portabel ? "RWpostream" : "RWbostream");
+        erwarteGleich(k, *form, static_cast<const qbFormular&>(*gelesen),
+                      portabel ? "RWpostream" : "RWbostream");
     }
 }
 
@@ -207,18 +246,19 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
     ASSERT_TRUE(gelesenerKnoten.fromXML(knoten.asXML()));
     std::unique_ptr<qbFormular> gelesen(k.ausXml(gelesenerKnoten));
     auto frisch = erzeuge(k);
-    const bool kopfWirdGelesen = std::string(k.basisName) == "qbFormular" || std::string(k.klassenName) == "qbFormular";
+    const bool kopfWirdGelesen =
+        std::string(k.basisName) == "qbFormular" || std::string(k.klassenName) == "qbFormular";
     const auto tabellen = kette(k);
     for (size_t ebene = 0; ebene < tabellen.size(); ++ebene) {
         const bool kopf = ebene + 1 == tabellen.size();
         for (const qbFeld& z : *tabellen[ebene]) {
-            const bool gelesenErwartet = z.xmlLeseKey && z.xmlSchreibKey && (kopf ? kopfWirdGelesen : ebene == 0);
+            const bool gelesenErwartet =
+                z.xmlLeseKey && z.xmlSchreibKey && (kopf ? kopfWirdGelesen : ebene == 0);
             const qbFormular& erwartet = gelesenErwartet ? *form : *frisch;
             EXPECT_EQ(wert(z, *gelesen), wert(z, erwartet)) << k.klassenName << "::" << z.name;
         }
     }
 }
-
 
 namespace {
 // The classes of the stored format in the order of registration, with their identifiers.
@@ -226,54 +266,22 @@ const struct {
     RWClassID id;
     const char* klasse;
 } kGespeicherteKlassen[] = {
-    {3000, "qbFormular"},
-    {30001, "qbFormularL300"},
-    {30045, "qbFormularL300_2"},
-    {30002, "qbFormularGS004"},
-    {30003, "qbFormularL145"},
-    {30004, "qbFormularL249"},
-    {30005, "qbFormularL146"},
-    {30038, "qbFormularL139"},
-    {30043, "qbFormularL137"},
-    {30044, "qbFormularL135"},
-    {30006, "qbFormularL241"},
-    {30007, "qbFormularL142"},
-    {30008, "qbFormularL138"},
-    {30009, "qbFormularL143"},
-    {30010, "qbFormularL141"},
-    {30011, "qbFormularL134"},
-    {30012, "qbFormularL243"},
-    {30039, "qbFormularL244"},
-    {30040, "qbFormularL245"},
-    {30041, "qbFormularL283"},
-    {30013, "qbFormularAllgGesu"},
-    {30035, "qbFormularL440"},
-    {30046, "qbFormularL441"},
-    {30014, "qbFormularL450"},
-    {30015, "qbFormularL451"},
-    {30016, "qbFormularL452"},
-    {30017, "qbFormularL453"},
-    {30042, "qbFormularL454"},
-    {30047, "qbFormularX278"},
-    {30018, "qbFormularL036"},
-    {30019, "qbFormularGR396"},
-    {30020, "qbFormularVB077A"},
-    {30021, "qbFormularKOLL"},
-    {30028, "qbFormularBAV"},
-    {30022, "qbFormularL147"},
-    {30023, "qbFormularL144"},
-    {30024, "qbFormularBA272"},
-    {30025, "qbFormularBA276"},
-    {30026, "qbFormularL281"},
-    {30027, "qbFormularL282"},
-    {30029, "qbFormularVB077"},
-    {30030, "qbFormularAenderungsprotokoll"},
-    {30031, "qbFormularGS004BUZ"},
-    {30032, "qbFormularGS004LV"},
-    {30033, "qbFormularGS004UZ"},
-    {30034, "qbFormularAU523"},
-    {30036, "qbFormularGN056"},
-    {30037, "qbFormularL095"}};
+    {3000, "qbFormular"},          {30001, "qbFormularL300"},    {30045, "qbFormularL300_2"},
+    {30002, "qbFormularGS004"},    {30003, "qbFormularL145"},    {30004, "qbFormularL249"},
+    {30005, "qbFormularL146"},     {30038, "qbFormularL139"},    {30043, "qbFormularL137"},
+    {30044, "qbFormularL135"},     {30006, "qbFormularL241"},    {30007, "qbFormularL142"},
+    {30008, "qbFormularL138"},     {30009, "qbFormularL143"},    {30010, "qbFormularL141"},
+    {30011, "qbFormularL134"},     {30012, "qbFormularL243"},    {30039, "qbFormularL244"},
+    {30040, "qbFormularL245"},     {30041, "qbFormularL283"},    {30013, "qbFormularAllgGesu"},
+    {30035, "qbFormularL440"},     {30046, "qbFormularL441"},    {30014, "qbFormularL450"},
+    {30015, "qbFormularL451"},     {30016, "qbFormularL452"},    {30017, "qbFormularL453"},
+    {30042, "qbFormularL454"},     {30047, "qbFormularX278"},    {30018, "qbFormularL036"},
+    {30019, "qbFormularGR396"},    {30020, "qbFormularVB077A"},  {30021, "qbFormularKOLL"},
+    {30028, "qbFormularBAV"},      {30022, "qbFormularL147"},    {30023, "qbFormularL144"},
+    {30024, "qbFormularBA272"},    {30025, "qbFormularBA276"},   {30026, "qbFormularL281"},
+    {30027, "qbFormularL282"},     {30029, "qbFormularVB077"},   {30030, "qbFormularAenderungsprotokoll"},
+    {30031, "qbFormularGS004BUZ"}, {30032, "qbFormularGS004LV"}, {30033, "qbFormularGS004UZ"},
+    {30034, "qbFormularAU523"},    {30036, "qbFormularGN056"},   {30037, "qbFormularL095"}};
 } // namespace
 
 TEST(Klassentabelle, BuiltRowsHaveTheIdsOfTheStoredFormatAndItsOrderOfRegistration) {
@@ -284,7 +292,8 @@ TEST(Klassentabelle, BuiltRowsHaveTheIdsOfTheStoredFormatAndItsOrderOfRegistrati
         while (stelle < std::size(kGespeicherteKlassen) &&
                std::string(kGespeicherteKlassen[stelle].klasse) != k.klassenName)
             ++stelle;
-        ASSERT_LT(stelle, std::size(kGespeicherteKlassen)) << k.klassenName << " is no class of the stored format";
+        ASSERT_LT(stelle, std::size(kGespeicherteKlassen))
+            << k.klassenName << " is no class of the stored format";
         EXPECT_EQ(k.id, kGespeicherteKlassen[stelle].id) << k.klassenName;
         EXPECT_GE(stelle, letzte) << k.klassenName << " is registered out of order";
         letzte = stelle;

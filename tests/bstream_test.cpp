@@ -101,7 +101,9 @@ TEST(RWbistream, DisagreeingLengthsFailTheStream) {
 }
 
 TEST(RWbistream, HugeStoredLengthAllocatesNoMoreThanTheInputHolds) {
-    std::istringstream in(std::string("\xF0\xFF\xFF\x7F\xF0\xFF\xFF\x7F" "abc", 11));
+    std::istringstream in(std::string("\xF0\xFF\xFF\x7F\xF0\xFF\xFF\x7F"
+                                      "abc",
+                                      11));
     RWbistream s(in);
     RWCString r("keep");
     r.restoreFrom(s);

@@ -63,7 +63,9 @@ protected:
 
 const Bytes kMagic{0x88, 0x88, 0x00, 0x00};
 
-Bytes sampleRecord(int key, const std::string& label) { return cat({uint16(Sample::kId), int32(key), text(label)}); }
+Bytes sampleRecord(int key, const std::string& label) {
+    return cat({uint16(Sample::kId), int32(key), text(label)});
+}
 
 } // namespace
 
@@ -76,7 +78,8 @@ TEST_F(Collectables, OutermostFileSaveWritesMagicThenClassIdAndGuts) {
     EXPECT_EQ(hex(readBytes(tmp.path())), hex(cat({kMagic, sampleRecord(5, "x")})));
 }
 
-TEST_F(Collectables, ObjectStoredTwiceInOneOperationIsWrittenOnceThenReferencedWithoutMagicUnderAnOuterGuard) {
+TEST_F(Collectables,
+       ObjectStoredTwiceInOneOperationIsWrittenOnceThenReferencedWithoutMagicUnderAnOuterGuard) {
     TempFile tmp("twice");
     Sample a(1, "a"), b(2, "b");
     {
@@ -86,7 +89,8 @@ TEST_F(Collectables, ObjectStoredTwiceInOneOperationIsWrittenOnceThenReferencedW
         f << static_cast<const RWCollectable*>(nullptr);
     }
     // The magic belongs to the guard that creates the store table: here the test's own guard, so none.
-    Bytes expected = cat({sampleRecord(1, "a"), sampleRecord(2, "b"), {0xFF, 0xFF}, int32(1), {0xFF, 0xFF}, int32(0)});
+    Bytes expected =
+        cat({sampleRecord(1, "a"), sampleRecord(2, "b"), {0xFF, 0xFF}, int32(1), {0xFF, 0xFF}, int32(0)});
     EXPECT_EQ(hex(readBytes(tmp.path())), hex(expected));
 
     RWFile f(tmp.path(), "rb");
@@ -108,7 +112,8 @@ TEST_F(Collectables, SeparateOperationsEachWriteTheirOwnMagic) {
         RWFile f(tmp.path(), "wb");
         f << a << a;
     }
-    EXPECT_EQ(hex(readBytes(tmp.path())), hex(cat({kMagic, sampleRecord(1, "a"), kMagic, sampleRecord(1, "a")})));
+    EXPECT_EQ(hex(readBytes(tmp.path())),
+              hex(cat({kMagic, sampleRecord(1, "a"), kMagic, sampleRecord(1, "a")})));
 }
 
 TEST_F(Collectables, VirtualStreamFramesNewObjectsAndReferences) {
@@ -119,7 +124,15 @@ TEST_F(Collectables, VirtualStreamFramesNewObjectsAndReferences) {
         Sample a(3, "c");
         s << a << a;
     }
-    Bytes expected = cat({{':'}, uint16(Sample::kId), {'{'}, int32(3), int32(1), int32(1), bytesOf("c"), {'}'}, {'@'},
+    Bytes expected = cat({{':'},
+                          uint16(Sample::kId),
+                          {'{'},
+                          int32(3),
+                          int32(1),
+                          int32(1),
+                          bytesOf("c"),
+                          {'}'},
+                          {'@'},
                           int32(1)});
     EXPECT_EQ(hex(bytesOf(out.str())), hex(expected));
     std::istringstream in(out.str());
@@ -198,7 +211,12 @@ TEST_F(Collectables, ListSavesCountThenElementsAndRestoresThem) {
         RWFile f(tmp.path(), "wb");
         f << list;
     }
-    Bytes expected = cat({kMagic, uint16(0x8010), int32(3), sampleRecord(1, "a"), sampleRecord(2, "b"), {0xFF, 0xFF},
+    Bytes expected = cat({kMagic,
+                          uint16(0x8010),
+                          int32(3),
+                          sampleRecord(1, "a"),
+                          sampleRecord(2, "b"),
+                          {0xFF, 0xFF},
                           int32(2)});
     EXPECT_EQ(hex(readBytes(tmp.path())), hex(expected));
 
@@ -283,7 +301,8 @@ TEST(RWTValSlist, KeepsValuesInOrderWithVendorIteration) {
     EXPECT_EQ(list.index("b"), 2u);
     RWTValSlistIterator<RWCString> it(list);
     std::string joined;
-    while (it()) joined += it.key().std();
+    while (it())
+        joined += it.key().std();
     EXPECT_EQ(joined, "zab");
     EXPECT_TRUE(list.remove("a"));
     EXPECT_EQ(list.removeFirst(), "z");

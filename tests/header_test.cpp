@@ -19,8 +19,7 @@ TEST(OeffentlicheHeader, HoldOnlyAsciiBytes) {
             std::string inhalt((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
             ++gelesen;
             for (size_t i = 0; i < inhalt.size(); ++i)
-                EXPECT_LT(static_cast<unsigned char>(inhalt[i]), 0x80)
-                    << eintrag.path() << " at byte " << i;
+                EXPECT_LT(static_cast<unsigned char>(inhalt[i]), 0x80) << eintrag.path() << " at byte " << i;
         }
     }
     EXPECT_GT(gelesen, 20);

@@ -21,7 +21,9 @@
 namespace qbtest {
 
 enum class Strom { Datei, Binaer, Portabel };
-inline const char* name(Strom s) { return s == Strom::Datei ? "RWFile" : s == Strom::Binaer ? "RWbostream" : "RWpostream"; }
+inline const char* name(Strom s) {
+    return s == Strom::Datei ? "RWFile" : s == Strom::Binaer ? "RWbostream" : "RWpostream";
+}
 
 class AltSatz {
 public:
@@ -34,8 +36,8 @@ public:
     };
 
     // The header as a record of that version holds it: Seitenanzahl only from key 200111 on.
-    static AltSatz kopf(const std::string& version, const std::string& nummer, const std::string& name, int seiten,
-                        const std::string& person) {
+    static AltSatz kopf(const std::string& version, const std::string& nummer, const std::string& name,
+                        int seiten, const std::string& person) {
         AltSatz s;
         s.text(version).text(nummer).text(name);
         RWCString v(version.c_str());
@@ -51,11 +53,13 @@ public:
     AltSatz& zahl(double v) { return add({Art::Double, {}, 0, v}); }
     // n empty texts, n unanswered flags
     AltSatz& texte(int n, const std::string& v = "") {
-        for (int i = 0; i < n; ++i) text(v);
+        for (int i = 0; i < n; ++i)
+            text(v);
         return *this;
     }
     AltSatz& flags(int n, unsigned char v = 0xff) {
-        for (int i = 0; i < n; ++i) flag(v);
+        for (int i = 0; i < n; ++i)
+            flag(v);
         return *this;
     }
     AltSatz& dazu(const AltSatz& mehr) {
@@ -65,23 +69,49 @@ public:
     const std::vector<Wert>& werte() const { return werte_; }
 
     void schreibe(RWFile& f) const {
-        for (const Wert& w : werte_) switch (w.art) {
-            case Art::Text: RWCString(w.text.data(), w.text.size()).saveOn(f); break;
-            case Art::Flag: f.Write(static_cast<unsigned char>(w.zahl)); break;
-            case Art::Char: f.Write(static_cast<char>(w.zahl)); break;
-            case Art::Int: f.Write(static_cast<int>(w.zahl)); break;
-            case Art::Long: f.Write(w.zahl); break;
-            case Art::Double: f.Write(w.gleit); break;
+        for (const Wert& w : werte_)
+            switch (w.art) {
+            case Art::Text:
+                RWCString(w.text.data(), w.text.size()).saveOn(f);
+                break;
+            case Art::Flag:
+                f.Write(static_cast<unsigned char>(w.zahl));
+                break;
+            case Art::Char:
+                f.Write(static_cast<char>(w.zahl));
+                break;
+            case Art::Int:
+                f.Write(static_cast<int>(w.zahl));
+                break;
+            case Art::Long:
+                f.Write(w.zahl);
+                break;
+            case Art::Double:
+                f.Write(w.gleit);
+                break;
             }
     }
     void schreibe(RWvostream& s) const {
-        for (const Wert& w : werte_) switch (w.art) {
-            case Art::Text: RWCString(w.text.data(), w.text.size()).saveOn(s); break;
-            case Art::Flag: s << static_cast<unsigned char>(w.zahl); break;
-            case Art::Char: s << static_cast<char>(w.zahl); break;
-            case Art::Int: s << static_cast<int>(w.zahl); break;
-            case Art::Long: s << w.zahl; break;
-            case Art::Double: s << w.gleit; break;
+        for (const Wert& w : werte_)
+            switch (w.art) {
+            case Art::Text:
+                RWCString(w.text.data(), w.text.size()).saveOn(s);
+                break;
+            case Art::Flag:
+                s << static_cast<unsigned char>(w.zahl);
+                break;
+            case Art::Char:
+                s << static_cast<char>(w.zahl);
+                break;
+            case Art::Int:
+                s << static_cast<int>(w.zahl);
+                break;
+            case Art::Long:
+                s << w.zahl;
+                break;
+            case Art::Double:
+                s << w.gleit;
+                break;
             }
     }
     // The RWFile bytes of the record.

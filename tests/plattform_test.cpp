@@ -53,9 +53,9 @@ TEST(qbPerson, RecordIsFourteenTextsInTheDocumentedOrder) {
         RWFile f(tmp.path(), "wb");
         f << beispielPerson();
     }
-    Bytes expected = cat({text("01.02.1970"), text("w"), text("Schreinerin"), text("Frau"), text("Dr."), text("Anna"),
-                          text("M\xFCller"), text("Talweg 7"), text("99099"), text("Valdorf"), text("D"), text("0123"),
-                          text("0456"), text("anna@example.invalid")});
+    Bytes expected = cat({text("01.02.1970"), text("w"), text("Schreinerin"), text("Frau"), text("Dr."),
+                          text("Anna"), text("M\xFCller"), text("Talweg 7"), text("99099"), text("Valdorf"),
+                          text("D"), text("0123"), text("0456"), text("anna@example.invalid")});
     EXPECT_EQ(hex(readBytes(tmp.path())), hex(expected));
 }
 

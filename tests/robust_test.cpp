@@ -134,7 +134,8 @@ TEST_P(Beschaedigt, RandomBytesAreHandled) {
     std::mt19937 zufall(7);
     for (int versuch = 0; versuch < 1500; ++versuch) {
         std::string bytes(zufall() % 300, '\0');
-        for (char& c : bytes) c = static_cast<char>(zufall());
+        for (char& c : bytes)
+            c = static_cast<char>(zufall());
         if (!bytes.empty() && versuch % 2) bytes[0] = ':'; // get past the marker half of the time
         qbFormularListe liste;
         lies(bytes, GetParam(), liste);
@@ -142,7 +143,8 @@ TEST_P(Beschaedigt, RandomBytesAreHandled) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Liste, Beschaedigt, ::testing::Values(Art::Datei, Art::Binaer, Art::Portabel), artName);
+INSTANTIATE_TEST_SUITE_P(Liste, Beschaedigt, ::testing::Values(Art::Datei, Art::Binaer, Art::Portabel),
+                         artName);
 
 TEST(Beschaedigt, ReferenceToAnElementReadBeforeBecomesACopyTheListOwns) {
     // ':' Version, collection with two entries: a form and a reference to it (object 3)
@@ -161,7 +163,7 @@ TEST(Beschaedigt, ReferenceToAnElementReadBeforeBecomesACopyTheListOwns) {
 TEST(Beschaedigt, ReferenceToTheListItselfInsideTheCollectionRaisesInternalError) {
     qbFormularListe leer;
     std::string bytes = schreibe(leer, Art::Datei);
-    bytes[12 + 2] = 1;                              // one entry ...
+    bytes[12 + 2] = 1;                             // one entry ...
     bytes += std::string("\xFF\xFF\x01\0\0\0", 6); // ... that refers to the list, which is no collectable
     qbFormularListe liste;
     EXPECT_FALSE(lies(bytes, Art::Datei, liste));

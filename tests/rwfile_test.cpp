@@ -25,9 +25,9 @@ TEST(RWFile, ScalarsHaveTheWidthsOfThe32BitLittleEndianPlatform) {
         f.Write(1.0);
         f.Write(true);
     }
-    Bytes expected{0x41, 0xFF, 0xFE, 0xFF, 0x34, 0x12, 0xFF, 0xFF, 0xFF, 0xFF, 0x04, 0x03, 0x02, 0x01,
-                   0xFD, 0xFF, 0xFF, 0xFF, 0xD4, 0xC3, 0xB2, 0xA1, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
-                   0xF0, 0x3F, 0x01};
+    Bytes expected{0x41, 0xFF, 0xFE, 0xFF, 0x34, 0x12, 0xFF, 0xFF, 0xFF, 0xFF, 0x04,
+                   0x03, 0x02, 0x01, 0xFD, 0xFF, 0xFF, 0xFF, 0xD4, 0xC3, 0xB2, 0xA1,
+                   0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xF0, 0x3F, 0x01};
     EXPECT_EQ(hex(readBytes(tmp.path())), hex(expected));
 }
 
@@ -202,10 +202,12 @@ TEST(RWFile, StringLengthBeyondTheFileFailsAndLeavesTheStringUnchanged) {
 TEST(RWFile, LargeRecordsCrossTheBufferBoundary) {
     TempFile tmp("large");
     std::string big(200000, 'x');
-    for (size_t i = 0; i < big.size(); ++i) big[i] = static_cast<char>('a' + i % 26);
+    for (size_t i = 0; i < big.size(); ++i)
+        big[i] = static_cast<char>('a' + i % 26);
     {
         RWFile f(tmp.path(), "wb");
-        for (int i = 0; i < 30000; ++i) f.Write(i);
+        for (int i = 0; i < 30000; ++i)
+            f.Write(i);
         RWCString(big.c_str(), big.size()).saveOn(f);
         f.Write(-7);
     }

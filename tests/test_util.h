@@ -59,7 +59,8 @@ inline std::string hex(const Bytes& b) {
 // Concatenates pieces of expected bytes.
 inline Bytes cat(std::initializer_list<Bytes> parts) {
     Bytes out;
-    for (const Bytes& p : parts) out.insert(out.end(), p.begin(), p.end());
+    for (const Bytes& p : parts)
+        out.insert(out.end(), p.begin(), p.end());
     return out;
 }
 
@@ -68,17 +69,21 @@ inline Bytes text(const std::string& s) {
     uint32_t n = static_cast<uint32_t>(s.size());
     Bytes out;
     out.reserve(4 + s.size());
-    for (int shift = 0; shift < 32; shift += 8) out.push_back(static_cast<unsigned char>(n >> shift));
-    for (char c : s) out.push_back(static_cast<unsigned char>(c));
+    for (int shift = 0; shift < 32; shift += 8)
+        out.push_back(static_cast<unsigned char>(n >> shift));
+    for (char c : s)
+        out.push_back(static_cast<unsigned char>(c));
     return out;
 }
 
 inline Bytes int32(int32_t v) {
     uint32_t u = static_cast<uint32_t>(v);
-    return {static_cast<unsigned char>(u), static_cast<unsigned char>(u >> 8), static_cast<unsigned char>(u >> 16),
-            static_cast<unsigned char>(u >> 24)};
+    return {static_cast<unsigned char>(u), static_cast<unsigned char>(u >> 8),
+            static_cast<unsigned char>(u >> 16), static_cast<unsigned char>(u >> 24)};
 }
 
-inline Bytes uint16(uint16_t v) { return {static_cast<unsigned char>(v), static_cast<unsigned char>(v >> 8)}; }
+inline Bytes uint16(uint16_t v) {
+    return {static_cast<unsigned char>(v), static_cast<unsigned char>(v >> 8)};
+}
 
 } // namespace qbtest

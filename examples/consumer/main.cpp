@@ -23,7 +23,8 @@ int main(int argc, char** argv) {
         f >> gelesen;
     }
     qbFormularL145 gefunden;
-    if (!gelesen.liefereFormular("L145", gefunden, 0) || gefunden.RefVerletzungshergang() != "Sturz beim Skifahren") {
+    if (!gelesen.liefereFormular("L145", gefunden, 0) ||
+        gefunden.RefVerletzungshergang() != "Sturz beim Skifahren") {
         std::fprintf(stderr, "consumer: the form did not come back\n");
         return 1;
     }

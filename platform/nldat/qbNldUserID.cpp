@@ -13,6 +13,8 @@ int qbNldUserID::leseRegistry(const char* pfad) {
     return 0;
 }
 
-qbNldUserID::RegistryObserver qbNldUserID::setRegistryObserver(RegistryObserver o) { return observer.exchange(o); }
+qbNldUserID::RegistryObserver qbNldUserID::setRegistryObserver(RegistryObserver o) {
+    return observer.exchange(o);
+}
 
 unsigned long qbNldUserID::registryReads() { return reads.load(); }

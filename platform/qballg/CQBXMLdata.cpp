@@ -131,8 +131,8 @@ const CQBXMLdata* CQBXMLdata::entryAt(size_t index) const {
 }
 
 bool CQBXMLdata::sameTree(const CQBXMLdata& other) const {
-    if (name_ != other.name_ || typ_ != other.typ_ || attribute_ != other.attribute_ || added_ != other.added_ ||
-        !value_.identical(other.value_) || entries_.size() != other.entries_.size())
+    if (name_ != other.name_ || typ_ != other.typ_ || attribute_ != other.attribute_ ||
+        added_ != other.added_ || !value_.identical(other.value_) || entries_.size() != other.entries_.size())
         return false;
     for (size_t i = 0; i < entries_.size(); ++i)
         if (!entries_[i]->sameTree(*other.entries_[i])) return false;

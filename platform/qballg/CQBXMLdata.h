@@ -21,7 +21,8 @@
 //   <?xml version="1.0" encoding="UTF-8"?>
 //   <node name="..." typ="..." attribute="..." type="..." value="...">  child <node> elements  </node>
 // name, typ and attribute are left out when empty; added="true" marks a node taken in by add(); type and
-// value appear together when the node holds a value. type is one of text, flag, int, long, double, bool, date, and value is written as
+// value appear together when the node holds a value. type is one of text, flag, int, long, double, bool,
+// date, and value is written as
 //   text    the text, converted from Windows-1252 to UTF-8
 //   flag    decimal 0..255
 //   int     decimal, long decimal

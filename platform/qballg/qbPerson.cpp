@@ -6,8 +6,8 @@
 template <class Visit>
 void qbPerson::forEachText(Visit visit) {
     qbAdressDaten& a = AdressDaten;
-    for (RWCString* field : {&GebDat, &Geschlecht, &Beruf, &a.Anrede, &a.Titel, &a.Vorname, &a.Name, &a.Strasse,
-                             &a.PLZ, &a.Ort, &a.Land, &a.Telefon, &a.Telefax, &a.EMail})
+    for (RWCString* field : {&GebDat, &Geschlecht, &Beruf, &a.Anrede, &a.Titel, &a.Vorname, &a.Name,
+                             &a.Strasse, &a.PLZ, &a.Ort, &a.Land, &a.Telefon, &a.Telefax, &a.EMail})
         visit(*field);
 }
 

@@ -12,18 +12,54 @@ namespace {
 // The stored width of each scalar on the original platform.
 template <class T>
 struct Wire;
-template <> struct Wire<char> { using type = std::int8_t; };
-template <> struct Wire<signed char> { using type = std::int8_t; };
-template <> struct Wire<unsigned char> { using type = std::uint8_t; };
-template <> struct Wire<wchar_t> { using type = std::uint16_t; };
-template <> struct Wire<short> { using type = std::int16_t; };
-template <> struct Wire<unsigned short> { using type = std::uint16_t; };
-template <> struct Wire<int> { using type = std::int32_t; };
-template <> struct Wire<unsigned int> { using type = std::uint32_t; };
-template <> struct Wire<long> { using type = std::int32_t; };
-template <> struct Wire<unsigned long> { using type = std::uint32_t; };
-template <> struct Wire<float> { using type = float; };
-template <> struct Wire<double> { using type = double; };
+template <>
+struct Wire<char> {
+    using type = std::int8_t;
+};
+template <>
+struct Wire<signed char> {
+    using type = std::int8_t;
+};
+template <>
+struct Wire<unsigned char> {
+    using type = std::uint8_t;
+};
+template <>
+struct Wire<wchar_t> {
+    using type = std::uint16_t;
+};
+template <>
+struct Wire<short> {
+    using type = std::int16_t;
+};
+template <>
+struct Wire<unsigned short> {
+    using type = std::uint16_t;
+};
+template <>
+struct Wire<int> {
+    using type = std::int32_t;
+};
+template <>
+struct Wire<unsigned int> {
+    using type = std::uint32_t;
+};
+template <>
+struct Wire<long> {
+    using type = std::int32_t;
+};
+template <>
+struct Wire<unsigned long> {
+    using type = std::uint32_t;
+};
+template <>
+struct Wire<float> {
+    using type = float;
+};
+template <>
+struct Wire<double> {
+    using type = double;
+};
 
 constexpr size_t kChunk = 64 * 1024;
 
@@ -46,17 +82,18 @@ void RWbostream::write(const void* p, size_t n) {
     }
 }
 
-#define X(T)                                                                                                \
-    RWvostream& RWbostream::operator<<(T v) {                                                               \
-        using W = Wire<T>::type;                                                                            \
-        unsigned char b[sizeof(W)];                                                                         \
-        rwwire::store<W>(b, static_cast<W>(v));                                                             \
-        write(b, sizeof b);                                                                                 \
-        return *this;                                                                                       \
-    }                                                                                                       \
-    RWvostream& RWbostream::put(const T* p, size_t n) {                                                     \
-        for (size_t i = 0; i < n; ++i) *this << p[i];                                                       \
-        return *this;                                                                                       \
+#define X(T)                                                                                                 \
+    RWvostream& RWbostream::operator<<(T v) {                                                                \
+        using W = Wire<T>::type;                                                                             \
+        unsigned char b[sizeof(W)];                                                                          \
+        rwwire::store<W>(b, static_cast<W>(v));                                                              \
+        write(b, sizeof b);                                                                                  \
+        return *this;                                                                                        \
+    }                                                                                                        \
+    RWvostream& RWbostream::put(const T* p, size_t n) {                                                      \
+        for (size_t i = 0; i < n; ++i)                                                                       \
+            *this << p[i];                                                                                   \
+        return *this;                                                                                        \
     }
 RW_VSTREAM_SCALARS(X)
 #undef X
@@ -101,16 +138,17 @@ int RWbistream::get() {
     return read(&c, 1) ? c : std::char_traits<char>::eof();
 }
 
-#define X(T)                                                                                                \
-    RWvistream& RWbistream::operator>>(T& v) {                                                              \
-        using W = Wire<T>::type;                                                                            \
-        unsigned char b[sizeof(W)];                                                                         \
-        if (read(b, sizeof b)) v = static_cast<T>(rwwire::load<W>(b));                                     \
-        return *this;                                                                                       \
-    }                                                                                                       \
-    RWvistream& RWbistream::get(T* p, size_t n) {                                                           \
-        for (size_t i = 0; i < n && good(); ++i) *this >> p[i];                                             \
-        return *this;                                                                                       \
+#define X(T)                                                                                                 \
+    RWvistream& RWbistream::operator>>(T& v) {                                                               \
+        using W = Wire<T>::type;                                                                             \
+        unsigned char b[sizeof(W)];                                                                          \
+        if (read(b, sizeof b)) v = static_cast<T>(rwwire::load<W>(b));                                       \
+        return *this;                                                                                        \
+    }                                                                                                        \
+    RWvistream& RWbistream::get(T* p, size_t n) {                                                            \
+        for (size_t i = 0; i < n && good(); ++i)                                                             \
+            *this >> p[i];                                                                                   \
+        return *this;                                                                                        \
     }
 RW_VSTREAM_SCALARS(X)
 #undef X

@@ -13,9 +13,9 @@ public:
     explicit RWbostream(std::streambuf* sb);
 
     RWvostream& operator<<(const char* s) override;
-#define X(T)                                                                                                \
-    RWvostream& operator<<(T v) override;                                                                   \
-    RWvostream& put(T v) override { return *this << v; }                                                    \
+#define X(T)                                                                                                 \
+    RWvostream& operator<<(T v) override;                                                                    \
+    RWvostream& put(T v) override { return *this << v; }                                                     \
     RWvostream& put(const T* p, size_t n) override;
     RW_VSTREAM_SCALARS(X)
 #undef X
@@ -34,9 +34,9 @@ public:
     explicit RWbistream(std::streambuf* sb);
 
     int get() override;
-#define X(T)                                                                                                \
-    RWvistream& operator>>(T& v) override;                                                                  \
-    RWvistream& get(T& v) override { return *this >> v; }                                                  \
+#define X(T)                                                                                                 \
+    RWvistream& operator>>(T& v) override;                                                                   \
+    RWvistream& get(T& v) override { return *this >> v; }                                                    \
     RWvistream& get(T* p, size_t n) override;
     RW_VSTREAM_SCALARS(X)
 #undef X

@@ -161,8 +161,10 @@ RWFile& operator<<(RWFile& f, const RWCollectable& c) {
     return f;
 }
 RWFile& operator<<(RWFile& f, const RWCollectable* c) {
-    if (c) c->recursiveSaveOn(f);
-    else RWCollectable::saveNil(f);
+    if (c)
+        c->recursiveSaveOn(f);
+    else
+        RWCollectable::saveNil(f);
     return f;
 }
 RWvostream& operator<<(RWvostream& s, const RWCollectable& c) {
@@ -170,8 +172,10 @@ RWvostream& operator<<(RWvostream& s, const RWCollectable& c) {
     return s;
 }
 RWvostream& operator<<(RWvostream& s, const RWCollectable* c) {
-    if (c) c->recursiveSaveOn(s);
-    else RWCollectable::saveNil(s);
+    if (c)
+        c->recursiveSaveOn(s);
+    else
+        RWCollectable::saveNil(s);
     return s;
 }
 RWFile& operator>>(RWFile& f, RWCollectable& c) {

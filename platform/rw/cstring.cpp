@@ -68,18 +68,22 @@ RWCSubString& RWCSubString::operator=(const RWCSubString& s) {
 }
 
 void RWCSubString::toLower() {
-    for (size_t i = 0; i < extent_; ++i) (*this)(i) = static_cast<char>(std::tolower((unsigned char)(*this)(i)));
+    for (size_t i = 0; i < extent_; ++i)
+        (*this)(i) = static_cast<char>(std::tolower((unsigned char)(*this)(i)));
 }
 
 void RWCSubString::toUpper() {
-    for (size_t i = 0; i < extent_; ++i) (*this)(i) = static_cast<char>(std::toupper((unsigned char)(*this)(i)));
+    for (size_t i = 0; i < extent_; ++i)
+        (*this)(i) = static_cast<char>(std::toupper((unsigned char)(*this)(i)));
 }
 
 // ---- RWCString
 
 RWCSubString RWCString::operator()(size_t start, size_t len) { return RWCSubString(*this, start, len); }
 
-const RWCSubString RWCString::operator()(size_t start, size_t len) const { return RWCSubString(*this, start, len); }
+const RWCSubString RWCString::operator()(size_t start, size_t len) const {
+    return RWCSubString(*this, start, len);
+}
 
 size_t RWCString::index(const char* pat, size_t i, caseCompare cmp) const {
     return findFrom(s_, pat ? pat : "", i, cmp);
@@ -102,13 +106,17 @@ size_t RWCString::last(char c) const {
 RWCSubString RWCString::strip(stripType how, char c) {
     size_t begin = 0, end = s_.size();
     if (how & leading)
-        while (begin < end && s_[begin] == c) ++begin;
+        while (begin < end && s_[begin] == c)
+            ++begin;
     if (how & trailing)
-        while (end > begin && s_[end - 1] == c) --end;
+        while (end > begin && s_[end - 1] == c)
+            --end;
     return RWCSubString(*this, begin, end - begin);
 }
 
-const RWCSubString RWCString::strip(stripType how, char c) const { return const_cast<RWCString*>(this)->strip(how, c); }
+const RWCSubString RWCString::strip(stripType how, char c) const {
+    return const_cast<RWCString*>(this)->strip(how, c);
+}
 
 RWCString& RWCString::insert(size_t pos, const char* s) {
     s_.insert(std::min(pos, s_.size()), s ? s : "");
@@ -185,11 +193,13 @@ unsigned RWCString::hash(caseCompare cmp) const {
 }
 
 void RWCString::toLower() {
-    for (char& c : s_) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char& c : s_)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
 }
 
 void RWCString::toUpper() {
-    for (char& c : s_) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    for (char& c : s_)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
 void RWCString::saveOn(RWFile& f) const {
@@ -228,8 +238,12 @@ RWBoolean operator>(const RWCString& a, const RWCString& b) { return b < a; }
 RWBoolean operator<=(const RWCString& a, const RWCString& b) { return !(b < a); }
 RWBoolean operator>=(const RWCString& a, const RWCString& b) { return !(a < b); }
 
-RWBoolean operator==(const RWCSubString& a, const char* b) { return a.view() == std::string_view(b ? b : ""); }
-RWBoolean operator==(const RWCSubString& a, const RWCString& b) { return a.view() == std::string_view(b.std()); }
+RWBoolean operator==(const RWCSubString& a, const char* b) {
+    return a.view() == std::string_view(b ? b : "");
+}
+RWBoolean operator==(const RWCSubString& a, const RWCString& b) {
+    return a.view() == std::string_view(b.std());
+}
 RWBoolean operator==(const RWCString& a, const RWCSubString& b) { return b == a; }
 RWBoolean operator!=(const RWCSubString& a, const char* b) { return !(a == b); }
 RWBoolean operator!=(const RWCSubString& a, const RWCString& b) { return !(a == b); }

@@ -58,8 +58,14 @@ public:
     explicit RWCString(std::string s) : s_(std::move(s)) {}
     explicit RWCString(std::string_view s) : s_(s) {}
 
-    RWCString& operator=(const char* s) { s_ = s ? s : ""; return *this; }
-    RWCString& operator=(const RWCSubString& sub) { s_ = std::string(sub.view()); return *this; }
+    RWCString& operator=(const char* s) {
+        s_ = s ? s : "";
+        return *this;
+    }
+    RWCString& operator=(const RWCSubString& sub) {
+        s_ = std::string(sub.view());
+        return *this;
+    }
 
     operator const char*() const { return s_.c_str(); }
     const char* data() const { return s_.c_str(); }
@@ -77,7 +83,9 @@ public:
 
     size_t index(const char* pat, size_t i = 0, caseCompare cmp = exact) const;
     size_t index(const RWCString& pat, size_t i = 0, caseCompare cmp = exact) const;
-    RWBoolean contains(const char* pat, caseCompare cmp = exact) const { return index(pat, 0, cmp) != RW_NPOS; }
+    RWBoolean contains(const char* pat, caseCompare cmp = exact) const {
+        return index(pat, 0, cmp) != RW_NPOS;
+    }
     RWBoolean contains(const RWCString& pat, caseCompare cmp = exact) const {
         return index(pat, 0, cmp) != RW_NPOS;
     }

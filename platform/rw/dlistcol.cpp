@@ -71,7 +71,8 @@ void RWDlistCollectables::clearAndDestroy() {
 
 RWspace RWDlistCollectables::binaryStoreSize() const {
     RWspace size = 4;
-    for (RWCollectable* c : items_) size += 2 + (c ? c->binaryStoreSize() : 4);
+    for (RWCollectable* c : items_)
+        size += 2 + (c ? c->binaryStoreSize() : 4);
     return size;
 }
 
@@ -86,12 +87,14 @@ RWBoolean RWDlistCollectables::isEqual(const RWCollectable* other) const {
 
 void RWDlistCollectables::saveGuts(RWFile& f) const {
     f.Write(static_cast<unsigned>(items_.size()));
-    for (RWCollectable* c : items_) f << c;
+    for (RWCollectable* c : items_)
+        f << c;
 }
 
 void RWDlistCollectables::saveGuts(RWvostream& s) const {
     s << static_cast<unsigned>(items_.size());
-    for (RWCollectable* c : items_) s << c;
+    for (RWCollectable* c : items_)
+        s << c;
 }
 
 // The count is not trusted for allocation: elements are appended as they arrive, and the loop ends

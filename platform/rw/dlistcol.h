@@ -64,7 +64,9 @@ public:
     explicit RWDlistCollectablesIterator(RWDlistCollectables& list) : list_(&list) {}
     // Advances and returns the next element, nil at the end.
     RWCollectable* operator()();
-    RWCollectable* key() const { return pos_ > 0 && pos_ <= list_->entries() ? list_->items_[pos_ - 1] : rwnil; }
+    RWCollectable* key() const {
+        return pos_ > 0 && pos_ <= list_->entries() ? list_->items_[pos_ - 1] : rwnil;
+    }
     void reset() { pos_ = 0; }
 
 private:

@@ -17,7 +17,8 @@ inline T load(const unsigned char* p) {
     if constexpr (std::endian::native == std::endian::big && sizeof(T) > 1) {
         unsigned char b[sizeof(T)];
         std::memcpy(b, &v, sizeof b);
-        for (size_t i = 0; i < sizeof b / 2; ++i) std::swap(b[i], b[sizeof b - 1 - i]);
+        for (size_t i = 0; i < sizeof b / 2; ++i)
+            std::swap(b[i], b[sizeof b - 1 - i]);
         std::memcpy(&v, b, sizeof b);
     }
     return v;
@@ -27,7 +28,8 @@ template <class T>
 inline void store(unsigned char* p, T v) {
     std::memcpy(p, &v, sizeof v);
     if constexpr (std::endian::native == std::endian::big && sizeof(T) > 1)
-        for (size_t i = 0; i < sizeof(T) / 2; ++i) std::swap(p[i], p[sizeof(T) - 1 - i]);
+        for (size_t i = 0; i < sizeof(T) / 2; ++i)
+            std::swap(p[i], p[sizeof(T) - 1 - i]);
 }
 
 } // namespace rwwire

@@ -7,8 +7,10 @@
 namespace {
 const RWCatMsg kRef = {"rwtool", 1, "[REF] Bad persistence reference"};
 const RWCatMsg kMagic = {"rwtool", 2, "[MAGIC] Bad magic number: %ld (should be %ld)"};
-const RWCatMsg kNoCreate = {"rwtool", 3, "[NOCREATE] RWFactory: no create function for class with ID %hu (0x%hx)"};
-const RWCatMsg kWrongClass = {"rwtool", 4, "[WRONGCLASS] Stored class ID %hu is not the class ID %hu of the target"};
+const RWCatMsg kNoCreate = {"rwtool", 3,
+                            "[NOCREATE] RWFactory: no create function for class with ID %hu (0x%hx)"};
+const RWCatMsg kWrongClass = {"rwtool", 4,
+                              "[WRONGCLASS] Stored class ID %hu is not the class ID %hu of the target"};
 } // namespace
 
 const RWMsgId RWTOOL_REF = &kRef;

@@ -20,12 +20,12 @@ private:
     std::string msg_;
 };
 
-#define RW_DECLARE_XMSG(Name, Base)                                                                         \
-    class Name : public Base {                                                                              \
-    public:                                                                                                 \
-        explicit Name(const char* msg) : Base(msg) {}                                                       \
-        explicit Name(const RWMessage& msg) : Base(msg) {}                                                  \
-        void raise() const override { throw *this; }                                                        \
+#define RW_DECLARE_XMSG(Name, Base)                                                                          \
+    class Name : public Base {                                                                               \
+    public:                                                                                                  \
+        explicit Name(const char* msg) : Base(msg) {}                                                        \
+        explicit Name(const RWMessage& msg) : Base(msg) {}                                                   \
+        void raise() const override { throw *this; }                                                         \
     };
 
 RW_DECLARE_XMSG(RWInternalErr, RWxmsg)

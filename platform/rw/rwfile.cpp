@@ -18,14 +18,24 @@ int openFlags(const char* mode, bool& append) {
     append = false;
     int flags;
     switch (mode[0]) {
-    case 'r': flags = O_RDONLY; break;
-    case 'w': flags = O_WRONLY | O_CREAT | O_TRUNC; break;
-    case 'a': flags = O_WRONLY | O_CREAT | O_APPEND; append = true; break;
-    default: return -1;
+    case 'r':
+        flags = O_RDONLY;
+        break;
+    case 'w':
+        flags = O_WRONLY | O_CREAT | O_TRUNC;
+        break;
+    case 'a':
+        flags = O_WRONLY | O_CREAT | O_APPEND;
+        append = true;
+        break;
+    default:
+        return -1;
     }
     for (const char* p = mode + 1; *p; ++p) {
-        if (*p == '+') flags = (flags & ~(O_RDONLY | O_WRONLY)) | O_RDWR;
-        else if (*p != 'b' && *p != 't') return -1;
+        if (*p == '+')
+            flags = (flags & ~(O_RDONLY | O_WRONLY)) | O_RDWR;
+        else if (*p != 'b' && *p != 't')
+            return -1;
     }
     return flags | O_CLOEXEC;
 }
@@ -236,17 +246,17 @@ RWBoolean RWFile::Read(bool& v) {
     return true;
 }
 
-#define QB_RWFILE_SCALAR(T, Wire)                                                                           \
-    RWBoolean RWFile::Read(T& v) {                                                                          \
-        unsigned char b[sizeof(Wire)];                                                                      \
-        if (!readRaw(b, sizeof b)) return false;                                                            \
-        v = static_cast<T>(rwwire::load<Wire>(b));                                                          \
-        return true;                                                                                        \
-    }                                                                                                       \
-    RWBoolean RWFile::Write(T v) {                                                                          \
-        unsigned char b[sizeof(Wire)];                                                                      \
-        rwwire::store<Wire>(b, static_cast<Wire>(v));                                                       \
-        return writeRaw(b, sizeof b);                                                                       \
+#define QB_RWFILE_SCALAR(T, Wire)                                                                            \
+    RWBoolean RWFile::Read(T& v) {                                                                           \
+        unsigned char b[sizeof(Wire)];                                                                       \
+        if (!readRaw(b, sizeof b)) return false;                                                             \
+        v = static_cast<T>(rwwire::load<Wire>(b));                                                           \
+        return true;                                                                                         \
+    }                                                                                                        \
+    RWBoolean RWFile::Write(T v) {                                                                           \
+        unsigned char b[sizeof(Wire)];                                                                       \
+        rwwire::store<Wire>(b, static_cast<Wire>(v));                                                        \
+        return writeRaw(b, sizeof b);                                                                        \
     }
 
 QB_RWFILE_SCALAR(wchar_t, std::uint16_t)

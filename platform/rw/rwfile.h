@@ -123,8 +123,8 @@ private:
     bool append_ = false;
     // One buffer serves either pending writes or read-ahead, never both.
     std::vector<unsigned char> buf_;
-    size_t writeLen_ = 0;         // pending bytes in buf_[0, writeLen_)
-    size_t readPos_ = 0;          // read-ahead in buf_[readPos_, readEnd_)
+    size_t writeLen_ = 0; // pending bytes in buf_[0, writeLen_)
+    size_t readPos_ = 0;  // read-ahead in buf_[readPos_, readEnd_)
     size_t readEnd_ = 0;
-    long long offset_ = 0;        // the logical position of the next read or write
+    long long offset_ = 0; // the logical position of the next read or write
 };

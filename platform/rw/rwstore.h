@@ -28,7 +28,9 @@ public:
     void append(void* object); // an object that is no collectable, such as a form list
     size_t entries() const { return entries_.size(); }
     // The entry at number, or nil; isCollectable tells which kind it is.
-    void* operator()(size_t number) const { return number < entries_.size() ? entries_[number].object : rwnil; }
+    void* operator()(size_t number) const {
+        return number < entries_.size() ? entries_[number].object : rwnil;
+    }
     RWBoolean isCollectable(size_t number) const {
         return number < entries_.size() && entries_[number].collectable;
     }

@@ -50,12 +50,14 @@ public:
         return rwnil;
     }
     void clear() {
-        for (auto& b : buckets_) b.clear();
+        for (auto& b : buckets_)
+            b.clear();
         entries_ = 0;
     }
     void clearAndDestroy() {
         for (auto& b : buckets_)
-            for (T* e : b) delete e;
+            for (T* e : b)
+                delete e;
         clear();
     }
     void resize(size_t buckets) {
@@ -63,7 +65,8 @@ public:
         old.swap(buckets_);
         buckets_.resize(buckets ? buckets : 1);
         for (auto& b : old)
-            for (T* e : b) buckets_[bucketOf(*e)].push_back(e);
+            for (T* e : b)
+                buckets_[bucketOf(*e)].push_back(e);
     }
     size_t buckets() const { return buckets_.size(); }
 

@@ -29,7 +29,9 @@ public:
     const T& first() const { return items_.at(0); }
     T& last() { return items_.at(items_.size() - 1); }
     const T& last() const { return items_.at(items_.size() - 1); }
-    RWBoolean contains(const T& v) const { return std::find(items_.begin(), items_.end(), v) != items_.end(); }
+    RWBoolean contains(const T& v) const {
+        return std::find(items_.begin(), items_.end(), v) != items_.end();
+    }
     size_t index(const T& v) const {
         auto it = std::find(items_.begin(), items_.end(), v);
         return it == items_.end() ? RW_NPOS : static_cast<size_t>(it - items_.begin());

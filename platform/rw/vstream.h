@@ -7,9 +7,10 @@
 #include <string>
 
 // The scalar types of the virtual streams, for declaring and defining their operators in one go.
-#define RW_VSTREAM_SCALARS(X)                                                                               \
-    X(char) X(signed char) X(unsigned char) X(wchar_t) X(short) X(unsigned short) X(int) X(unsigned int)  \
-        X(long) X(unsigned long) X(float) X(double)
+#define RW_VSTREAM_SCALARS(X)                                                                                \
+    X(char)                                                                                                  \
+    X(signed char) X(unsigned char) X(wchar_t) X(short) X(unsigned short) X(int) X(unsigned int) X(long)     \
+        X(unsigned long) X(float) X(double)
 
 class RWvios {
 public:

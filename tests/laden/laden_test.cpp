@@ -28,7 +28,9 @@ const Zeile kTabelle[] = {
 #undef QB_KLASSE
 } // namespace
 
-void rwAddToFactory(RWuserCreator, RWClassID id, RWStringID name) { aufrufe.push_back({'+', id, name.name().std()}); }
+void rwAddToFactory(RWuserCreator, RWClassID id, RWStringID name) {
+    aufrufe.push_back({'+', id, name.name().std()});
+}
 void rwRemoveFromFactory(RWClassID id) { aufrufe.push_back({'#', id, {}}); }
 void rwRemoveFromFactory(RWStringID name) { aufrufe.push_back({'$', 0, name.name().std()}); }
 
