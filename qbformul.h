@@ -35,12 +35,5 @@
 #include "core/qbFormularListe.h"
 #include "core/qbKlassen.h"
 
-// Health declarations
-#include "health/qbFormularAllgGesu.h"
-#include "health/qbFormularL144.h"
-#include "health/qbFormularL145.h"
-#include "health/qbFormularL146.h"
-#include "health/qbFormularL147.h"
-
-// Sport and stay-abroad declarations
-#include "sport/qbFormularL440.h"
+// Every form class: health, sport and stay-abroad, financial, pension and clerical forms.
+#include "qbformul_formulare.h"
