@@ -1,0 +1,17 @@
+// The stored example examples/legacy/alte-layouts.qbf: an application whose records have the layouts of
+// older versions of their forms, written value by value with the fixture writer of the tests, as the forms
+// of that time wrote them. The program qbformul_legacy_example writes it; a test checks that the stored
+// file is what this code writes.
+#pragma once
+
+#include <string>
+
+namespace qbtest {
+
+// Where the example lies in a checkout, relative to its root.
+inline const char* const kLegacyBeispielPfad = "examples/legacy/alte-layouts.qbf";
+
+// Writes the example application file; false when the file cannot be written.
+bool schreibeLegacyBeispiel(const std::string& pfad);
+
+} // namespace qbtest

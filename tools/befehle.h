@@ -1,0 +1,36 @@
+// The subcommands of qbformul. Each file befehl_<name>.cpp sets up its parser with CLI11 and says what it
+// runs; main.cpp runs the one the command line names.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace qbtool {
+
+struct Befehl {
+    CLI::App* app;
+    std::function<int()> ausfuehren; // returns the exit code or throws Fehler
+};
+using Befehle = std::vector<Befehl>;
+
+void richteDemoEin(CLI::App& haupt, Befehle& befehle);
+void richteListEin(CLI::App& haupt, Befehle& befehle);
+void richteShowEin(CLI::App& haupt, Befehle& befehle);
+void richteExportEin(CLI::App& haupt, Befehle& befehle);
+void richteImportEin(CLI::App& haupt, Befehle& befehle);
+void richteUpgradeEin(CLI::App& haupt, Befehle& befehle);
+void richteCatalogEin(CLI::App& haupt, Befehle& befehle);
+void richteExplainEin(CLI::App& haupt, Befehle& befehle);
+
+} // namespace qbtool
+
+namespace qbtool {
+
+// The table of list: one row per stored form. Throws Fehler for a file that does not read.
+void druckeFormularliste(const std::string& pfad, std::ostream& aus);
+
+} // namespace qbtool

@@ -1,0 +1,71 @@
+// qbformul: look into, convert and upgrade the stored applications of the form library.
+#include "befehle.h"
+#include "werkzeug.h"
+
+#include "rw/rwerr.h"
+
+#include <exception>
+#include <iostream>
+#include <new>
+
+namespace {
+
+// CLI11's report of a bad command line as one line: what is wrong and where the help is.
+std::string einzeilig(const CLI::App* haupt, const CLI::Error& fehler) {
+    std::string befehl = haupt->get_name();
+    for (const CLI::App* unter : haupt->get_subcommands())
+        befehl += " " + unter->get_name();
+    return befehl + ": " + fehler.what() + " (see " + befehl + " --help)\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CLI::App haupt(
+        "Looks into, converts and upgrades the stored applications of the form library. Text on the "
+        "terminal and in XML and JSON is UTF-8; the library's Windows-1252 is converted at the edge.\n"
+        "Exit codes: 0 success, 1 a check failed, 2 bad usage or unreadable input.",
+        "qbformul");
+    haupt.set_version_flag("--version", QBFORMUL_VERSION);
+    haupt.require_subcommand(1);
+    haupt.failure_message(einzeilig);
+
+    qbtool::Befehle befehle;
+    qbtool::richteDemoEin(haupt, befehle);
+    qbtool::richteListEin(haupt, befehle);
+    qbtool::richteShowEin(haupt, befehle);
+    qbtool::richteExportEin(haupt, befehle);
+    qbtool::richteImportEin(haupt, befehle);
+    qbtool::richteUpgradeEin(haupt, befehle);
+    qbtool::richteCatalogEin(haupt, befehle);
+    qbtool::richteExplainEin(haupt, befehle);
+
+    try {
+        haupt.parse(argc, argv);
+    } catch (const CLI::ParseError& fehler) {
+        const int code = haupt.exit(fehler);
+        return code == 0 ? qbtool::kErfolg : qbtool::kAufruffehler;
+    }
+
+    for (const qbtool::Befehl& befehl : befehle) {
+        if (!befehl.app->parsed()) continue;
+        try {
+            const int code = befehl.ausfuehren();
+            std::cout.flush();
+            return code;
+        } catch (const qbtool::Fehler& fehler) {
+            qbtool::meldeFehler(fehler.what());
+            return fehler.code();
+        } catch (const RWxmsg& fehler) {
+            qbtool::meldeFehler(befehl.app->get_name() + ": " + fehler.why());
+            return qbtool::kAufruffehler;
+        } catch (const std::bad_alloc&) {
+            qbtool::meldeFehler(befehl.app->get_name() + ": out of memory");
+            return qbtool::kAufruffehler;
+        } catch (const std::exception& fehler) {
+            qbtool::meldeFehler(befehl.app->get_name() + ": " + fehler.what());
+            return qbtool::kAufruffehler;
+        }
+    }
+    return qbtool::kAufruffehler;
+}
