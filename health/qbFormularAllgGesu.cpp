@@ -38,6 +38,17 @@ void qbFormularAllgGesu::liesGespeichert(Strom& s) {
         qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {&felder()});
 }
 
+static constexpr qbSchritt antwortZuFrage2000[] = {"AntwortZuFrage"};
+
+template <class Strom>
+void qbFormularAllgGesu::liesFruehesLayout(Strom& s, const qbLayout& layout1999,
+                                           const qbFeldTabelle& eigene) {
+    qbLiesLayout(*this, s, layout1999, {&eigene, &felder()});
+    if (Version == "01.2000") qbLiesLayout(*this, s, {"01.2000", antwortZuFrage2000}, {&eigene, &felder()});
+}
+template void qbFormularAllgGesu::liesFruehesLayout(RWFile&, const qbLayout&, const qbFeldTabelle&);
+template void qbFormularAllgGesu::liesFruehesLayout(RWvistream&, const qbLayout&, const qbFeldTabelle&);
+
 void qbFormularAllgGesu::restoreGuts(RWFile& f) { liesGespeichert(f); }
 void qbFormularAllgGesu::restoreGuts(RWvistream& s) { liesGespeichert(s); }
 

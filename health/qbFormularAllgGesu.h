@@ -4,6 +4,8 @@
 
 #include "core/qbFormularMakros.h"
 
+struct qbLayout;
+
 // Fields 13 and 14 came with 11.2001, left the 12.2001 to 04.2002 records and came back with 05.2002.
 #define QB_FELDER_qbFormularAllgGesu(FELD)                                                                   \
     FELD(Text, Krankheit)                                                                                    \
@@ -46,6 +48,10 @@ protected:
     // The two oldest layouts, "10.1999" and "01.2000", hold the common answers between the form's own
     // fields: the derived form reads them itself.
     bool hatFruehesLayout() const { return Version == "10.1999" || Version == "01.2000"; }
+    // Reads such a record by the form's sequence of "10.1999"; a record of "01.2000" holds AntwortZuFrage
+    // behind it. For RWFile and RWvistream.
+    template <class Strom>
+    void liesFruehesLayout(Strom& s, const qbLayout& layout1999, const qbFeldTabelle& eigene);
     template <class Strom>
     void liesGespeichert(Strom& s);
 };

@@ -10,67 +10,34 @@ QB_FORMULAR_GROESSE(qbFormularL145)
 QB_FORMULAR_XML(qbFormularL145)
 QB_FORMULAR_LOESCHE(qbFormularL145)
 
-// "10.1999", and "01.2000" with AntwortZuFrage behind it: the common answers stand between the own
-// fields, with a Text, and a Flag, an Int and a Text, that no longer exist.
-static constexpr qbSchritt layout1999[] = {"Verletzungshergang",
-                                           "Verletzung",
-                                           "ArztAdresse",
-                                           "KrankenhausJN",
-                                           "KurJN",
-                                           "KrankenhausKur",
-                                           "AdresseKrankenhausKurstaette",
-                                           qbVerworfen::Text,
-                                           "GeheiltJN",
-                                           "GeheiltSeit",
-                                           "Beschwerden",
-                                           "OperationJN",
-                                           "Operation",
-                                           "RehaJN",
-                                           "Reha",
-                                           "DauerfolgenJN",
-                                           "Dauerfolgen",
-                                           "AdresseWeitererArzt",
-                                           "DatumBehandlungWeitererArzt",
-                                           "ErkrankungWeitererArzt",
-                                           "ArbeitsunfaehigJN",
-                                           "DatumArbeitsunfaehigkeit",
-                                           "ErkrankungArbeitsunfaehigkeit",
-                                           qbVerworfen::Flag,
-                                           qbVerworfen::Int,
-                                           qbVerworfen::Text,
-                                           "Koerperhaelfte",
-                                           "Beginn",
-                                           "Dauer",
-                                           "Krankheit"};
-static constexpr qbSchritt layout2000Zusatz[] = {"AntwortZuFrage"};
+// "10.1999" (and "01.2000", which holds AntwortZuFrage behind it): the common answers stand between the
+// own fields, with a Text, and a Flag, an Int and a Text, that no longer exist.
+// clang-format off
+static constexpr qbSchritt layout1999[] = {
+    "Verletzungshergang", "Verletzung", "ArztAdresse", "KrankenhausJN", "KurJN", "KrankenhausKur",
+    "AdresseKrankenhausKurstaette", qbVerworfen::Text, "GeheiltJN", "GeheiltSeit", "Beschwerden",
+    "OperationJN", "Operation", "RehaJN", "Reha", "DauerfolgenJN", "Dauerfolgen", "AdresseWeitererArzt",
+    "DatumBehandlungWeitererArzt", "ErkrankungWeitererArzt", "ArbeitsunfaehigJN", "DatumArbeitsunfaehigkeit",
+    "ErkrankungArbeitsunfaehigkeit", qbVerworfen::Flag, qbVerworfen::Int, qbVerworfen::Text,
+    "Koerperhaelfte", "Beginn", "Dauer", "Krankheit"};
+// clang-format on
 
 // Before 10.2002; VerletzteOrgane and VerletzteGelenke from 05.2002. The Text behind Verletzung is a
 // field that no longer exists.
-static constexpr qbSchritt layoutVor200210[] = {"Verletzungshergang",
-                                                qbSchritt("VerletzteOrgane").ab(200205),
-                                                qbSchritt("VerletzteGelenke").ab(200205),
-                                                "Verletzung",
-                                                qbVerworfen::Text,
-                                                "GeheiltJN",
-                                                "GeheiltSeit",
-                                                "Beschwerden",
-                                                "OperationJN",
-                                                "Operation",
-                                                "RehaJN",
-                                                "Reha",
-                                                "DauerfolgenJN",
-                                                "Dauerfolgen",
-                                                "Koerperhaelfte"};
+// clang-format off
+static constexpr qbSchritt layoutVor200210[] = {
+    "Verletzungshergang", qbSchritt("VerletzteOrgane").ab(200205), qbSchritt("VerletzteGelenke").ab(200205),
+    "Verletzung", qbVerworfen::Text, "GeheiltJN", "GeheiltSeit", "Beschwerden", "OperationJN", "Operation",
+    "RehaJN", "Reha", "DauerfolgenJN", "Dauerfolgen", "Koerperhaelfte"};
+// clang-format on
 
 template <class Strom>
 void qbFormularL145::liesGespeichert(Strom& s) {
     qbFormularAllgGesu::restoreGuts(s);
-    const auto tabellen = {&felder(), &qbFormularAllgGesu::felder()};
-    if (Version == "10.1999" || Version == "01.2000") {
-        qbLiesLayout(*this, s, {"10.1999", layout1999}, tabellen);
-        if (Version == "01.2000") qbLiesLayout(*this, s, {"01.2000", layout2000Zusatz}, tabellen);
+    if (hatFruehesLayout()) {
+        liesFruehesLayout(s, {"10.1999", layout1999}, felder());
     } else if (versionsSchluessel() < 200210) {
-        qbLiesLayout(*this, s, {"vor 10.2002", layoutVor200210}, tabellen);
+        qbLiesLayout(*this, s, {"vor 10.2002", layoutVor200210}, {&felder(), &qbFormularAllgGesu::felder()});
     } else {
         felder().lies(*this, s);
     }

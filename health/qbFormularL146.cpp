@@ -16,57 +16,26 @@ qbFormularL146::qbFormularL146() {
     Dauer = 0;
 }
 
-// "10.1999", and "01.2000" with AntwortZuFrage behind it: the common answers stand between the own
-// fields, with a Flag, an Int and a Text that no longer exist.
-static constexpr qbSchritt layout1999[] = {"Beginn",
-                                           "Dauer",
-                                           "Frage1",
-                                           "DeswegenArbeitsunfaehigJN",
-                                           "DauerArbeitsunfaehig",
-                                           "Wirbelsaeulenabschnitt",
-                                           "Diagnose",
-                                           "ArztAdresse",
-                                           "KrankenhausJN",
-                                           "KurJN",
-                                           "KrankenhausKur",
-                                           "AdresseKrankenhausKurstaette",
-                                           "RoentgenJN",
-                                           "DatumRoentgen",
-                                           "OperationJN",
-                                           "Operation",
-                                           "Verordnung",
-                                           "SonstigeVerordnung",
-                                           "EinzelheitenVerordnung",
-                                           "Medikamente",
-                                           "GeheiltJN",
-                                           "GeheiltSeit",
-                                           "Beschwerden",
-                                           "OperationGeplantJN",
-                                           "GeplanteOperation",
-                                           "RehaJN",
-                                           "Reha",
-                                           "AdresseWeitererArzt",
-                                           "DatumBehandlungWeitererArzt",
-                                           "ErkrankungWeitererArzt",
-                                           "ArbeitsunfaehigJN",
-                                           "DatumArbeitsunfaehigkeit",
-                                           "ErkrankungArbeitsunfaehigkeit",
-                                           qbVerworfen::Flag,
-                                           qbVerworfen::Int,
-                                           qbVerworfen::Text,
-                                           "Krankheit"};
-static constexpr qbSchritt layout2000Zusatz[] = {"AntwortZuFrage"};
+// "10.1999" (and "01.2000", which holds AntwortZuFrage behind it): the common answers stand between the
+// own fields, with a Flag, an Int and a Text that no longer exist.
+// clang-format off
+static constexpr qbSchritt layout1999[] = {
+    "Beginn", "Dauer", "Frage1", "DeswegenArbeitsunfaehigJN", "DauerArbeitsunfaehig",
+    "Wirbelsaeulenabschnitt", "Diagnose", "ArztAdresse", "KrankenhausJN", "KurJN", "KrankenhausKur",
+    "AdresseKrankenhausKurstaette", "RoentgenJN", "DatumRoentgen", "OperationJN", "Operation", "Verordnung",
+    "SonstigeVerordnung", "EinzelheitenVerordnung", "Medikamente", "GeheiltJN", "GeheiltSeit", "Beschwerden",
+    "OperationGeplantJN", "GeplanteOperation", "RehaJN", "Reha", "AdresseWeitererArzt",
+    "DatumBehandlungWeitererArzt", "ErkrankungWeitererArzt", "ArbeitsunfaehigJN", "DatumArbeitsunfaehigkeit",
+    "ErkrankungArbeitsunfaehigkeit", qbVerworfen::Flag, qbVerworfen::Int, qbVerworfen::Text, "Krankheit"};
+// clang-format on
 
 template <class Strom>
 void qbFormularL146::liesGespeichert(Strom& s) {
     qbFormularAllgGesu::restoreGuts(s);
-    if (Version == "10.1999" || Version == "01.2000") {
-        const auto tabellen = {&felder(), &qbFormularAllgGesu::felder()};
-        qbLiesLayout(*this, s, {"10.1999", layout1999}, tabellen);
-        if (Version == "01.2000") qbLiesLayout(*this, s, {"01.2000", layout2000Zusatz}, tabellen);
-    } else {
+    if (hatFruehesLayout())
+        liesFruehesLayout(s, {"10.1999", layout1999}, felder());
+    else
         felder().lies(*this, s);
-    }
 }
 
 void qbFormularL146::restoreGuts(RWFile& f) { liesGespeichert(f); }
