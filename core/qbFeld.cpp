@@ -19,8 +19,8 @@ const qbFeld* qbFeldTabelle::suche(const char* name) const {
 void qbFeldTabelle::setzeStandard(qbFormular& form) const {
     for (const qbFeld& z : *this) {
         switch (z.art) {
-        case qbArt::Text:
-            form.*z.mitglied.text = z.standardText;
+        case qbArt::Text: // most defaults are empty, like a new string: no assignment then
+            if (*z.standardText || !(form.*z.mitglied.text).isNull()) form.*z.mitglied.text = z.standardText;
             break;
         case qbArt::Flag:
             form.*z.mitglied.flag = static_cast<unsigned char>(z.standardGanz);
@@ -245,9 +245,15 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 }
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
-    if (beobachter) beobachter->layout(klasse_, "aktuelle Tabelle");
+    if (beobachter) {
+        beobachter->layout(klasse_, "aktuelle Tabelle");
+        for (const qbFeld& z : *this)
+            if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
+        return;
+    }
+    // Nobody listens: the rows straight, without asking the thread's observer per row.
     for (const qbFeld& z : *this)
-        if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
+        if (gehoertZumLayout(z, form)) liesZeileAus(z, &form, f, nullptr);
 }
 
 void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {

@@ -10,7 +10,7 @@
 #include "rw/vstream.h"
 
 #include <memory>
-#include <unordered_set>
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -95,12 +95,9 @@ RWCString qbPersonenKennung(int person) {
     }
 }
 
-qbFormularListe::qbFormularListe() : Version("05.1999") {
-    for (const auto& zeile : kKatalog)
-        Katalog.insert(qbFormularInfo(zeile.nummer, zeile.name, zeile.seiten));
-}
+qbFormularListe::qbFormularListe() : Version("05.1999"), mitKatalog(true) {}
 
-qbFormularListe::qbFormularListe(const qbFormularListe& other) : Version(other.Version) {
+qbFormularListe::qbFormularListe(const qbFormularListe& other) : Version(other.Version), mitKatalog(false) {
     for (size_t i = 0; i < other.Formulare.entries(); ++i)
         neuesFormular(*static_cast<qbFormular*>(other.Formulare.at(i)));
 }
@@ -224,12 +221,19 @@ const qbFormular* qbFormularListe::liefereFormularAnPos(int pos) const {
     return const_cast<qbFormularListe*>(this)->liefereFormularAnPos(pos);
 }
 
-RWTValSlist<qbFormularInfo> qbFormularListe::RefDruckstueckeInfo() { return Katalog; }
+RWTValSlist<qbFormularInfo> qbFormularListe::RefDruckstueckeInfo() {
+    RWTValSlist<qbFormularInfo> katalog;
+    if (mitKatalog)
+        for (const auto& zeile : kKatalog)
+            katalog.insert(qbFormularInfo(zeile.nummer, zeile.name, zeile.seiten));
+    return katalog;
+}
 
 RWTValSlist<RWCString> qbFormularListe::RefAlleDruckstueckNr() const {
     RWTValSlist<RWCString> nummern;
-    for (const qbFormularInfo& info : Katalog)
-        nummern.insert(info.Nummer);
+    if (mitKatalog)
+        for (const auto& zeile : kKatalog)
+            nummern.insert(zeile.nummer);
     return nummern;
 }
 
@@ -361,16 +365,22 @@ namespace {
 // is taken out (and reported by the caller), and a second reference to a form read before becomes a copy.
 bool bereinige(RWDlistCollectables& formulare) {
     bool entfernt = false;
-    std::unordered_set<RWCollectable*> gesehen, geloescht;
+    std::vector<RWCollectable*> gesehen, geloescht; // kept sorted: lists are short
+    auto merke = [](std::vector<RWCollectable*>& menge, RWCollectable* c) {
+        auto stelle = std::lower_bound(menge.begin(), menge.end(), c);
+        if (stelle != menge.end() && *stelle == c) return false;
+        menge.insert(stelle, c);
+        return true;
+    };
     for (size_t i = 0; i < formulare.entries();) {
         RWCollectable* c = formulare.at(i);
         if (!c || c == &formulare || !dynamic_cast<qbFormular*>(c)) {
             formulare.removeAt(i);
             entfernt = true;
-            if (c && c != &formulare && geloescht.insert(c).second) delete c;
+            if (c && c != &formulare && merke(geloescht, c)) delete c;
             continue;
         }
-        if (!gesehen.insert(c).second) formulare.at(i) = c->copy();
+        if (!merke(gesehen, c)) formulare.at(i) = c->copy();
         ++i;
     }
     return entfernt;
@@ -388,11 +398,8 @@ void qbLiesListe(Strom& s, qbFormularListe& liste) {
     for (size_t i = 0; i < liste.Formulare.entries(); ++i)
         vorher.push_back(liste.Formulare.at(i));
     auto gibFrei = [&] {
-        std::unordered_set<RWCollectable*> gehalten;
-        for (size_t i = 0; i < liste.Formulare.entries(); ++i)
-            gehalten.insert(liste.Formulare.at(i));
         for (RWCollectable* alt : vorher)
-            if (!gehalten.count(alt)) delete alt;
+            if (!liste.Formulare.findReference(alt)) delete alt;
     };
     try {
         RWCollectable::recursiveRestoreFrom(s, &liste.Formulare);

@@ -99,7 +99,9 @@ private:
 
     RWCString Version;
     RWDlistCollectables Formulare;
-    RWTValSlist<qbFormularInfo> Katalog;
+    // The catalogue is the fixed table of the print pieces; a list holds it or (made by the copy
+    // constructor) none. It is spelled out only when asked for: a list is made for every restore.
+    bool mitKatalog;
 };
 
 // The person literal of an index: 0 "VP1", 1 "VP2", every other value "VN".

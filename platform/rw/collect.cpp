@@ -197,9 +197,27 @@ RWvistream& operator>>(RWvistream& s, RWCollectable*& c) {
 
 // ---- Store and read tables
 
-RWStoreTable::RWStoreTable() { numbers_[nullptr] = 0; }
+RWStoreTable::RWStoreTable() = default;
 
 RWBoolean RWStoreTable::add(const void* object, int& number) {
+    if (!object) {
+        number = 0;
+        return false;
+    }
+    if (numbers_.empty()) {
+        for (size_t i = 0; i < nFew_; ++i)
+            if (few_[i] == object) {
+                number = static_cast<int>(i) + 1;
+                return false;
+            }
+        if (nFew_ < kFew) {
+            few_[nFew_++] = object;
+            number = next_++;
+            return true;
+        }
+        for (size_t i = 0; i < nFew_; ++i)
+            numbers_.emplace(few_[i], static_cast<int>(i) + 1);
+    }
     auto [it, isNew] = numbers_.try_emplace(object, next_);
     if (isNew) ++next_;
     number = it->second;
@@ -216,23 +234,19 @@ RWCollectable* RWReadTable::collectableAt(size_t number) const {
 }
 
 RWUseStoreTable::RWUseStoreTable() : table_(currentStoreTable), created_(currentStoreTable == nullptr) {
-    if (created_) table_ = currentStoreTable = new RWStoreTable;
+    if (created_) table_ = currentStoreTable = &own_.emplace();
 }
 
 RWUseStoreTable::~RWUseStoreTable() {
-    if (!created_) return;
-    currentStoreTable = nullptr;
-    delete table_;
+    if (created_) currentStoreTable = nullptr;
 }
 
 RWUseReadTable::RWUseReadTable() : table_(currentReadTable), created_(currentReadTable == nullptr) {
-    if (created_) table_ = currentReadTable = new RWReadTable;
+    if (created_) table_ = currentReadTable = &own_.emplace();
 }
 
 RWUseReadTable::~RWUseReadTable() {
-    if (!created_) return;
-    currentReadTable = nullptr;
-    delete table_;
+    if (created_) currentReadTable = nullptr;
 }
 
 // ---- Factory

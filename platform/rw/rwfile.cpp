@@ -133,7 +133,7 @@ RWBoolean RWFile::Erase() {
     return true;
 }
 
-RWBoolean RWFile::writeRaw(const void* in, size_t n) {
+RWBoolean RWFile::writeRawSlow(const void* in, size_t n) {
     if (fd_ < 0 || error_) return false;
     if (readEnd_ > readPos_ || readEnd_ != 0) dropReadAhead();
     if (buf_.size() < kBufferSize) buf_.resize(kBufferSize);
@@ -163,7 +163,7 @@ RWBoolean RWFile::writeRaw(const void* in, size_t n) {
     return true;
 }
 
-RWBoolean RWFile::readRaw(void* out, size_t n) {
+RWBoolean RWFile::readRawSlow(void* out, size_t n) {
     if (fd_ < 0 || eof_ || error_) return false;
     if (writeLen_ > 0 && !flushWrites()) return false;
     if (buf_.size() < kBufferSize) buf_.resize(kBufferSize);
@@ -225,6 +225,12 @@ long long RWFile::remainingBytes() {
 
 RWBoolean RWFile::ReadString(std::string& s, size_t n) {
     if (fd_ < 0 || eof_ || error_) return false;
+    if (n <= readEnd_ - readPos_) { // all in the read-ahead: straight into s, whose storage is reused
+        s.assign(reinterpret_cast<const char*>(buf_.data() + readPos_), n);
+        readPos_ += n;
+        offset_ += static_cast<long long>(n);
+        return true;
+    }
     if (writeLen_ > 0 && !flushWrites()) return false;
     if (n > readEnd_ - readPos_ && static_cast<unsigned long long>(remainingBytes()) < n) {
         // The stored length promises more than the file holds.
@@ -245,29 +251,5 @@ RWBoolean RWFile::Read(bool& v) {
     v = c != 0;
     return true;
 }
-
-#define QB_RWFILE_SCALAR(T, Wire)                                                                            \
-    RWBoolean RWFile::Read(T& v) {                                                                           \
-        unsigned char b[sizeof(Wire)];                                                                       \
-        if (!readRaw(b, sizeof b)) return false;                                                             \
-        v = static_cast<T>(rwwire::load<Wire>(b));                                                           \
-        return true;                                                                                         \
-    }                                                                                                        \
-    RWBoolean RWFile::Write(T v) {                                                                           \
-        unsigned char b[sizeof(Wire)];                                                                       \
-        rwwire::store<Wire>(b, static_cast<Wire>(v));                                                        \
-        return writeRaw(b, sizeof b);                                                                        \
-    }
-
-QB_RWFILE_SCALAR(wchar_t, std::uint16_t)
-QB_RWFILE_SCALAR(short, std::int16_t)
-QB_RWFILE_SCALAR(unsigned short, std::uint16_t)
-QB_RWFILE_SCALAR(int, std::int32_t)
-QB_RWFILE_SCALAR(unsigned int, std::uint32_t)
-QB_RWFILE_SCALAR(long, std::int32_t)
-QB_RWFILE_SCALAR(unsigned long, std::uint32_t)
-QB_RWFILE_SCALAR(float, float)
-QB_RWFILE_SCALAR(double, double)
-#undef QB_RWFILE_SCALAR
 
 RWBoolean RWFile::Write(const char* s) { return writeRaw(s ? s : "", (s ? std::strlen(s) : 0) + 1); }

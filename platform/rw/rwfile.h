@@ -12,6 +12,10 @@
 #pragma once
 
 #include "rw/defs.h"
+#include "rw/endian.h"
+
+#include <cstdint>
+#include <cstring>
 
 #include <string>
 #include <vector>
@@ -48,15 +52,15 @@ public:
     RWBoolean Read(signed char& v) { return readRaw(&v, 1); }
     RWBoolean Read(unsigned char& v) { return readRaw(&v, 1); }
     RWBoolean Read(bool& v);
-    RWBoolean Read(wchar_t& v);
-    RWBoolean Read(short& v);
-    RWBoolean Read(unsigned short& v);
-    RWBoolean Read(int& v);
-    RWBoolean Read(unsigned int& v);
-    RWBoolean Read(long& v);
-    RWBoolean Read(unsigned long& v);
-    RWBoolean Read(float& v);
-    RWBoolean Read(double& v);
+    RWBoolean Read(wchar_t& v) { return readWire<std::uint16_t>(v); }
+    RWBoolean Read(short& v) { return readWire<std::int16_t>(v); }
+    RWBoolean Read(unsigned short& v) { return readWire<std::uint16_t>(v); }
+    RWBoolean Read(int& v) { return readWire<std::int32_t>(v); }
+    RWBoolean Read(unsigned int& v) { return readWire<std::uint32_t>(v); }
+    RWBoolean Read(long& v) { return readWire<std::int32_t>(v); }
+    RWBoolean Read(unsigned long& v) { return readWire<std::uint32_t>(v); }
+    RWBoolean Read(float& v) { return readWire<float>(v); }
+    RWBoolean Read(double& v) { return readWire<double>(v); }
     RWBoolean Read(char* v, size_t n) { return readRaw(v, n); }
     RWBoolean Read(unsigned char* v, size_t n) { return readRaw(v, n); }
     RWBoolean Read(short* v, size_t n) { return readArray(v, n); }
@@ -75,15 +79,15 @@ public:
     RWBoolean Write(signed char v) { return writeRaw(&v, 1); }
     RWBoolean Write(unsigned char v) { return writeRaw(&v, 1); }
     RWBoolean Write(bool v) { return Write(static_cast<char>(v)); }
-    RWBoolean Write(wchar_t v);
-    RWBoolean Write(short v);
-    RWBoolean Write(unsigned short v);
-    RWBoolean Write(int v);
-    RWBoolean Write(unsigned int v);
-    RWBoolean Write(long v);
-    RWBoolean Write(unsigned long v);
-    RWBoolean Write(float v);
-    RWBoolean Write(double v);
+    RWBoolean Write(wchar_t v) { return writeWire<std::uint16_t>(v); }
+    RWBoolean Write(short v) { return writeWire<std::int16_t>(v); }
+    RWBoolean Write(unsigned short v) { return writeWire<std::uint16_t>(v); }
+    RWBoolean Write(int v) { return writeWire<std::int32_t>(v); }
+    RWBoolean Write(unsigned int v) { return writeWire<std::uint32_t>(v); }
+    RWBoolean Write(long v) { return writeWire<std::int32_t>(v); }
+    RWBoolean Write(unsigned long v) { return writeWire<std::uint32_t>(v); }
+    RWBoolean Write(float v) { return writeWire<float>(v); }
+    RWBoolean Write(double v) { return writeWire<double>(v); }
     // The characters and the terminating NUL.
     RWBoolean Write(const char* s);
     RWBoolean Write(const char* v, size_t n) { return writeRaw(v, n); }
@@ -110,8 +114,37 @@ private:
             if (!Write(v[i])) return false;
         return true;
     }
-    RWBoolean readRaw(void* out, size_t n);
-    RWBoolean writeRaw(const void* in, size_t n);
+    // The buffered cases inline, with one bounds check; the rest (refill, flush, errors) in the .cpp.
+    RWBoolean readRaw(void* out, size_t n) {
+        if (readEnd_ - readPos_ < n || readPos_ == readEnd_ || eof_ || error_) return readRawSlow(out, n);
+        std::memcpy(out, buf_.data() + readPos_, n);
+        readPos_ += n;
+        offset_ += static_cast<long long>(n);
+        return true;
+    }
+    RWBoolean writeRaw(const void* in, size_t n) {
+        if (buf_.size() - writeLen_ < n || buf_.empty() || readEnd_ != 0 || error_)
+            return writeRawSlow(in, n);
+        std::memcpy(buf_.data() + writeLen_, in, n);
+        writeLen_ += n;
+        offset_ += static_cast<long long>(n);
+        return true;
+    }
+    template <class Wire, class T>
+    RWBoolean readWire(T& v) {
+        unsigned char b[sizeof(Wire)];
+        if (!readRaw(b, sizeof b)) return false;
+        v = static_cast<T>(rwwire::load<Wire>(b));
+        return true;
+    }
+    template <class Wire, class T>
+    RWBoolean writeWire(T v) {
+        unsigned char b[sizeof(Wire)];
+        rwwire::store<Wire>(b, static_cast<Wire>(v));
+        return writeRaw(b, sizeof b);
+    }
+    RWBoolean readRawSlow(void* out, size_t n);
+    RWBoolean writeRawSlow(const void* in, size_t n);
     bool flushWrites();
     void dropReadAhead();
     long long remainingBytes();

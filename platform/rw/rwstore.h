@@ -4,6 +4,7 @@
 
 #include "rw/defs.h"
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -16,6 +17,11 @@ public:
     RWBoolean add(const void* object, int& number);
 
 private:
+    // An operation stores few objects (a form: one; a list: itself, its collection): those in a short
+    // array searched in order, a hash table only beyond it.
+    static constexpr size_t kFew = 64;
+    const void* few_[kFew];
+    size_t nFew_ = 0; // object i of few_ has number i + 1
     std::unordered_map<const void*, int> numbers_;
     int next_ = 1; // 0 is nil
 };
@@ -56,6 +62,7 @@ public:
     RWStoreTable& operator*() const { return *table_; }
 
 private:
+    std::optional<RWStoreTable> own_; // the outermost guard's table lives on its stack
     RWStoreTable* table_;
     bool created_;
 };
@@ -71,6 +78,7 @@ public:
     RWReadTable& operator*() const { return *table_; }
 
 private:
+    std::optional<RWReadTable> own_;
     RWReadTable* table_;
     bool created_;
 };
