@@ -10,6 +10,69 @@
 #include <string>
 #include <type_traits>
 
+namespace {
+
+// Calls visit with the row's member pointer, typed as the member is declared.
+template <class Visit>
+void mitMitglied(const qbFeld& z, Visit&& visit) {
+    switch (z.art) {
+    case qbArt::Text:
+        return visit(z.mitglied.text);
+    case qbArt::Flag:
+        return visit(z.mitglied.flag);
+    case qbArt::Char:
+        return visit(z.mitglied.zeichen);
+    case qbArt::Bool:
+        return visit(z.mitglied.wahrheit);
+    case qbArt::Int:
+    case qbArt::Enum:
+        return visit(z.mitglied.ganz);
+    case qbArt::Long:
+        return visit(z.mitglied.lang);
+    case qbArt::Double:
+        return visit(z.mitglied.zahl);
+    case qbArt::Date:
+        return visit(z.mitglied.datum);
+    case qbArt::Person:
+        return visit(z.mitglied.person);
+    }
+}
+
+// One value onto a stream, in its type's encoding. Date and Person never travel on a virtual stream.
+void raus(RWFile& f, const RWCString& v) { v.saveOn(f); }
+void raus(RWFile& f, const RWDate& v) { v.saveOn(f); }
+void raus(RWFile& f, const qbPerson& v) { f << v; }
+template <class T>
+void raus(RWFile& f, const T& v) {
+    f.Write(v);
+}
+void raus(RWvostream& s, const RWCString& v) { v.saveOn(s); }
+void raus(RWvostream&, const RWDate&) {}
+void raus(RWvostream&, const qbPerson&) {}
+template <class T>
+void raus(RWvostream& s, const T& v) {
+    s << v;
+}
+
+// A Bool and an Enum go out as one char.
+template <class Strom, class T>
+void schreibeWert(Strom& s, qbArt art, const T& v) {
+    if constexpr (std::is_same_v<T, bool>)
+        raus(s, static_cast<char>(v));
+    else if constexpr (std::is_same_v<T, int>)
+        art == qbArt::Enum ? raus(s, static_cast<char>(v)) : raus(s, v);
+    else
+        raus(s, v);
+}
+
+template <class Strom>
+void schreibeZeilen(const qbFeldTabelle& tabelle, const qbFormular& form, Strom& s) {
+    for (const qbFeld& z : tabelle)
+        mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
+}
+
+} // namespace
+
 const qbFeld* qbFeldTabelle::suche(const char* name) const {
     for (const qbFeld& z : *this)
         if (std::strcmp(z.name, name) == 0) return &z;
@@ -52,78 +115,14 @@ void qbFeldTabelle::setzeStandard(qbFormular& form) const {
 }
 
 void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
-    for (const qbFeld& z : *this) {
-        switch (z.art) {
-        case qbArt::Text:
-            ziel.*z.mitglied.text = quelle.*z.mitglied.text;
-            break;
-        case qbArt::Flag:
-            ziel.*z.mitglied.flag = quelle.*z.mitglied.flag;
-            break;
-        case qbArt::Char:
-            ziel.*z.mitglied.zeichen = quelle.*z.mitglied.zeichen;
-            break;
-        case qbArt::Bool:
-            ziel.*z.mitglied.wahrheit = quelle.*z.mitglied.wahrheit;
-            break;
-        case qbArt::Int:
-        case qbArt::Enum:
-            ziel.*z.mitglied.ganz = quelle.*z.mitglied.ganz;
-            break;
-        case qbArt::Long:
-            ziel.*z.mitglied.lang = quelle.*z.mitglied.lang;
-            break;
-        case qbArt::Double:
-            ziel.*z.mitglied.zahl = quelle.*z.mitglied.zahl;
-            break;
-        case qbArt::Date:
-            ziel.*z.mitglied.datum = quelle.*z.mitglied.datum;
-            break;
-        case qbArt::Person:
-            ziel.*z.mitglied.person = quelle.*z.mitglied.person;
-            break;
-        }
-    }
+    for (const qbFeld& z : *this)
+        mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });
 }
 
 // ---- Streams
 
-void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const {
-    for (const qbFeld& z : *this) {
-        switch (z.art) {
-        case qbArt::Text:
-            (form.*z.mitglied.text).saveOn(f);
-            break;
-        case qbArt::Flag:
-            f.Write(form.*z.mitglied.flag);
-            break;
-        case qbArt::Char:
-            f.Write(form.*z.mitglied.zeichen);
-            break;
-        case qbArt::Bool:
-            f.Write(static_cast<char>(form.*z.mitglied.wahrheit));
-            break;
-        case qbArt::Int:
-            f.Write(form.*z.mitglied.ganz);
-            break;
-        case qbArt::Enum:
-            f.Write(static_cast<char>(form.*z.mitglied.ganz));
-            break;
-        case qbArt::Long:
-            f.Write(form.*z.mitglied.lang);
-            break;
-        case qbArt::Double:
-            f.Write(form.*z.mitglied.zahl);
-            break;
-        case qbArt::Date:
-            (form.*z.mitglied.datum).saveOn(f);
-            break;
-        case qbArt::Person:
-            f << form.*z.mitglied.person;
-            break;
-        }
-    }
-}
+void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const { schreibeZeilen(*this, form, f); }
+void qbFeldTabelle::schreibe(const qbFormular& form, RWvostream& s) const { schreibeZeilen(*this, form, s); }
 
 namespace {
 
@@ -261,41 +260,6 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
         if (gehoertZumLayout(z, form)) liesZeile(z, &form, s);
 }
 
-// Date and Person have no virtual-stream form: the classes that hold them never send them there.
-void qbFeldTabelle::schreibe(const qbFormular& form, RWvostream& s) const {
-    for (const qbFeld& z : *this) {
-        switch (z.art) {
-        case qbArt::Text:
-            (form.*z.mitglied.text).saveOn(s);
-            break;
-        case qbArt::Flag:
-            s << form.*z.mitglied.flag;
-            break;
-        case qbArt::Char:
-            s << form.*z.mitglied.zeichen;
-            break;
-        case qbArt::Bool:
-            s << static_cast<char>(form.*z.mitglied.wahrheit);
-            break;
-        case qbArt::Int:
-            s << form.*z.mitglied.ganz;
-            break;
-        case qbArt::Enum:
-            s << static_cast<char>(form.*z.mitglied.ganz);
-            break;
-        case qbArt::Long:
-            s << form.*z.mitglied.lang;
-            break;
-        case qbArt::Double:
-            s << form.*z.mitglied.zahl;
-            break;
-        case qbArt::Date:
-        case qbArt::Person:
-            break;
-        }
-    }
-}
-
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
@@ -326,70 +290,24 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
 
 // ---- XML
 
+// Char and Person have no value type of their own in the tree: a form says how it exchanges them.
+template <class T>
+constexpr bool hatXmlWert = !std::is_same_v<T, char> && !std::is_same_v<T, qbPerson>;
+
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
-    for (const qbFeld& z : *this) {
-        if (!z.xmlSchreibKey) continue;
-        const RWCString key(z.xmlSchreibKey);
-        switch (z.art) {
-        case qbArt::Text:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.text));
-            break;
-        case qbArt::Flag:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.flag));
-            break;
-        case qbArt::Bool:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.wahrheit));
-            break;
-        case qbArt::Int:
-        case qbArt::Enum:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.ganz));
-            break;
-        case qbArt::Long:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.lang));
-            break;
-        case qbArt::Double:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.zahl));
-            break;
-        case qbArt::Date:
-            knoten.List(CQBXMLdata(key, form.*z.mitglied.datum));
-            break;
-        case qbArt::Char:
-        case qbArt::Person:
-            break; // no value type of their own: a form says how it exchanges them
-        }
-    }
+    for (const qbFeld& z : *this)
+        if (z.xmlSchreibKey)
+            mitMitglied(z, [&](auto m) {
+                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                    knoten.List(CQBXMLdata(z.xmlSchreibKey, form.*m));
+            });
 }
 
 void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
-    for (const qbFeld& z : *this) {
-        if (!z.xmlLeseKey) continue;
-        const RWCString key(z.xmlLeseKey);
-        switch (z.art) {
-        case qbArt::Text:
-            knoten.Listvalue(key, form.*z.mitglied.text);
-            break;
-        case qbArt::Flag:
-            knoten.Listvalue(key, form.*z.mitglied.flag);
-            break;
-        case qbArt::Bool:
-            knoten.Listvalue(key, form.*z.mitglied.wahrheit);
-            break;
-        case qbArt::Int:
-        case qbArt::Enum:
-            knoten.Listvalue(key, form.*z.mitglied.ganz);
-            break;
-        case qbArt::Long:
-            knoten.Listvalue(key, form.*z.mitglied.lang);
-            break;
-        case qbArt::Double:
-            knoten.Listvalue(key, form.*z.mitglied.zahl);
-            break;
-        case qbArt::Date:
-            knoten.Listvalue(key, form.*z.mitglied.datum);
-            break;
-        case qbArt::Char:
-        case qbArt::Person:
-            break;
-        }
-    }
+    for (const qbFeld& z : *this)
+        if (z.xmlLeseKey)
+            mitMitglied(z, [&](auto m) {
+                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                    knoten.Listvalue(z.xmlLeseKey, form.*m);
+            });
 }

@@ -303,34 +303,42 @@ void schreibeListe(Strom& s, const qbFormularListe& liste) {
     }
 }
 
-// Reads the marker; true with the list's number on '@', false on ':'. Throws on any other marker.
+// The marker of a list on the stream: ':' a new list, '@' and the number of one read before. Any other
+// marker raises RWInternalErr.
+struct Marke {
+    bool gelesen = false; // false: the stream failed before the marker (or the number) was whole
+    bool verweis = false;
+    int nummer = 0;
+};
+
 template <class Strom>
-bool liesMarke(Strom& s, bool& gelesen, int& nummer) {
-    gelesen = false;
-    char marke = 0;
-    if (!liesWert(s, marke)) return false;
-    if (marke == '@') {
-        if (!liesWert(s, nummer)) return false;
-        gelesen = true;
-        return true;
-    }
-    if (marke != ':') falscherVerweis();
-    gelesen = gut(s);
-    return false;
+Marke liesMarke(Strom& s) {
+    Marke m;
+    char zeichen = 0;
+    if (!liesWert(s, zeichen)) return m;
+    if (zeichen != ':' && zeichen != '@') falscherVerweis();
+    m.verweis = zeichen == '@';
+    m.gelesen = m.verweis ? liesWert(s, m.nummer) : gut(s);
+    return m;
+}
+
+// The list an '@' number names (nil for 0); a number outside the table or one that names a collectable
+// raises RWInternalErr.
+qbFormularListe* verwiesen(const RWReadTable& tabelle, int nummer) {
+    if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle.entries() ||
+        (nummer != 0 && tabelle.isCollectable(static_cast<size_t>(nummer))))
+        falscherVerweis();
+    return static_cast<qbFormularListe*>(tabelle(static_cast<size_t>(nummer)));
 }
 
 template <class Strom>
 void liesInListe(Strom& s, qbFormularListe& liste) {
     if (!gut(s)) return;
     RWUseReadTable tabelle;
-    bool gelesen = false;
-    int nummer = 0;
-    const bool verweis = liesMarke(s, gelesen, nummer);
-    if (!gelesen) return;
-    if (verweis) {
-        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() ||
-            tabelle->isCollectable(nummer) || (*tabelle)(static_cast<size_t>(nummer)) != &liste)
-            falscherVerweis();
+    const Marke m = liesMarke(s);
+    if (!m.gelesen) return;
+    if (m.verweis) {
+        if (verwiesen(*tabelle, m.nummer) != &liste) falscherVerweis();
         return;
     }
     tabelle->append(static_cast<void*>(&liste));
@@ -341,15 +349,10 @@ template <class Strom>
 void liesInZeiger(Strom& s, qbFormularListe*& liste) {
     if (!gut(s)) return;
     RWUseReadTable tabelle;
-    bool gelesen = false;
-    int nummer = 0;
-    const bool verweis = liesMarke(s, gelesen, nummer);
-    if (!gelesen) return;
-    if (verweis) {
-        if (nummer < 0 || static_cast<size_t>(nummer) >= tabelle->entries() ||
-            (nummer != 0 && tabelle->isCollectable(nummer)))
-            falscherVerweis();
-        liste = static_cast<qbFormularListe*>((*tabelle)(static_cast<size_t>(nummer)));
+    const Marke m = liesMarke(s);
+    if (!m.gelesen) return;
+    if (m.verweis) {
+        liste = verwiesen(*tabelle, m.nummer);
         return;
     }
     liste = new qbFormularListe;
