@@ -30,6 +30,13 @@ const qbKlasse qbKlassen[qbKlassenAnzahl] = {
 
 const qbSuchregel qbSucheOhne = {nullptr, true, true, nullptr};
 const qbSuchregel qbSuchePerson = {nullptr, true, true, nullptr};
+const qbSuchregel qbSucheOhnePersonBeimLiefern = {nullptr, false, true, nullptr};
+const qbSuchregel qbSucheOhnePerson = {nullptr, false, false, nullptr};
+// Numbers of pension print pieces that liefereFormular treats as the pension form; FormularVorhanden,
+// loescheFormular and neuesFormular do not know them.
+static const char* const kPensionsAliase[] = {"BA441", "BA443", "BA444", "BA652",
+                                              "BA646", "BA644", "BA645", nullptr};
+const qbSuchregel qbSuchePensionsform = {nullptr, true, true, kPensionsAliase};
 
 const qbKlasse* qbKlasseZuNummer(const RWCString& nummer) {
     for (const qbKlasse& k : qbKlassen)
