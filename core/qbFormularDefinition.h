@@ -4,12 +4,24 @@
 #pragma once
 
 #include "core/qbFormularMakros.h"
+#include "core/qbFeldStrom.h"
 #include "core/qbKlassen.h"
+#include "core/qbLeseBeobachter.h"
 #include "qballg/CQBXMLdata.h"
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
 // ---- In the form's .cpp
+
+// One row of a field list as code: written, or read when the stored version's layout holds it.
+#define QB_FELD_SCHREIBEN(Typ, Name, ...) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);
+#define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
+    {                                                                                                        \
+        static constexpr qbFeld zeile = qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__;            \
+        if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) ||                                              \
+            zeile.gehoertZumLayout(versionsSchluessel()))                                                    \
+            qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                          \
+    }
 
 // Identity, field table, copy construction and assignment (base first, then the own fields), and the
 // entry points of the class table (creator, copy for the list, assignment for the list, XML import).
@@ -32,6 +44,17 @@
         return *this;                                                                                        \
     }                                                                                                        \
     Klasse::~Klasse() = default;                                                                             \
+    template <class Strom>                                                                                   \
+    void Klasse::schreibeEigene(Strom& s) const {                                                            \
+        Felder(QB_FELD_SCHREIBEN)                                                                            \
+    }                                                                                                        \
+    template <class Strom>                                                                                   \
+    void Klasse::liesEigene(Strom& s) {                                                                      \
+        using Selbst = Klasse;                                                                               \
+        if constexpr (std::is_same_v<Strom, RWFile>)                                                         \
+            if (qbAktuellerLeseBeobachter()) return felder().lies(*this, s);                                 \
+        Felder(QB_FELD_LESEN)                                                                                \
+    }                                                                                                        \
     QB_KLASSEN_EINSTIEG(Klasse)
 
 // Default constructor: the base's defaults, the table's defaults, then the header constants of the class
@@ -48,21 +71,21 @@
     void Klasse::saveGuts(RWFile& f) const {                                                                 \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(f);                                                                            \
-        felder().schreibe(*this, f);                                                                         \
+        schreibeEigene(f);                                                                                   \
     }                                                                                                        \
     void Klasse::saveGuts(RWvostream& s) const {                                                             \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(s);                                                                            \
-        felder().schreibe(*this, s);                                                                         \
+        schreibeEigene(s);                                                                                   \
     }
 #define QB_FORMULAR_LADEN(Klasse)                                                                            \
     void Klasse::restoreGuts(RWFile& f) {                                                                    \
         Basisklasse::restoreGuts(f);                                                                         \
-        felder().lies(*this, f);                                                                             \
+        liesEigene(f);                                                                                       \
     }                                                                                                        \
     void Klasse::restoreGuts(RWvistream& s) {                                                                \
         Basisklasse::restoreGuts(s);                                                                         \
-        felder().lies(*this, s);                                                                             \
+        liesEigene(s);                                                                                       \
     }
 
 // The base's figure plus the own fields' bytes.

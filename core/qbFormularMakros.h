@@ -86,31 +86,40 @@
 
 // ---- In the class body
 
-#define QB_FORMULAR(Klasse, Basis, Felder)                                                                   \
-public:                                                                                                      \
-    using Basisklasse = Basis;                                                                               \
-    Klasse();                                                                                                \
-    Klasse(const Klasse& other);                                                                             \
-    Klasse& operator=(const Klasse& other);                                                                  \
-    ~Klasse() override;                                                                                      \
-    RWCollectable* newSpecies() const override;                                                              \
-    RWCollectable* copy() const override;                                                                    \
-    RWClassID isA() const override;                                                                          \
-    RWspace binaryStoreSize() const override;                                                                \
-    void restoreGuts(RWvistream& s) override;                                                                \
-    void restoreGuts(RWFile& f) override;                                                                    \
-    void saveGuts(RWvostream& s) const override;                                                             \
-    void saveGuts(RWFile& f) const override;                                                                 \
-    void loesche() override;                                                                                 \
-    void XMLgetDat(CQBXMLdata& knoten) const;                                                                \
-    void XMLputDat(CQBXMLdata& knoten);                                                                      \
-    static unsigned short classIsA();                                                                        \
-    static unsigned short myAtom;                                                                            \
-    static const char* klassenName() { return #Klasse; }                                                     \
-    /* The field table: the rows of Felder, in stream order. */                                              \
-    static const qbFeldTabelle& felder();                                                                    \
-    Felder(QB_FELD_ZUGRIFF)                                                                                  \
-                                                                                                             \
-        protected : Felder(QB_FELD_MITGLIED)                                                                 \
-                                                                                                             \
-                        public:
+// clang-format off
+#define QB_FORMULAR(Klasse, Basis, Felder)                                                                 \
+public:                                                                                                    \
+    using Basisklasse = Basis;                                                                             \
+    Klasse();                                                                                              \
+    Klasse(const Klasse& other);                                                                           \
+    Klasse& operator=(const Klasse& other);                                                                \
+    ~Klasse() override;                                                                                    \
+    RWCollectable* newSpecies() const override;                                                            \
+    RWCollectable* copy() const override;                                                                  \
+    RWClassID isA() const override;                                                                        \
+    RWspace binaryStoreSize() const override;                                                              \
+    void restoreGuts(RWvistream& s) override;                                                              \
+    void restoreGuts(RWFile& f) override;                                                                  \
+    void saveGuts(RWvostream& s) const override;                                                           \
+    void saveGuts(RWFile& f) const override;                                                               \
+    void loesche() override;                                                                               \
+    void XMLgetDat(CQBXMLdata& knoten) const;                                                              \
+    void XMLputDat(CQBXMLdata& knoten);                                                                    \
+    static unsigned short classIsA();                                                                      \
+    static unsigned short myAtom;                                                                          \
+    static const char* klassenName() { return #Klasse; }                                                   \
+    /* The field table: the rows of Felder, in stream order. */                                            \
+    static const qbFeldTabelle& felder();                                                                  \
+    Felder(QB_FELD_ZUGRIFF)                                                                                \
+                                                                                                           \
+protected:                                                                                                 \
+    /* The own fields in the current layout, as straight code from Felder (the table reads them when an */ \
+    /* observer listens). */                                                                               \
+    template <class Strom>                                                                                 \
+    void schreibeEigene(Strom& s) const;                                                                   \
+    template <class Strom>                                                                                 \
+    void liesEigene(Strom& s);                                                                             \
+    Felder(QB_FELD_MITGLIED)                                                                               \
+                                                                                                           \
+public:
+// clang-format on

@@ -14,12 +14,12 @@ qbFormularAllgGesu::qbFormularAllgGesu() { felder().setzeStandard(*this); }
 // The base does not stamp a version: only a concrete form does.
 void qbFormularAllgGesu::saveGuts(RWFile& f) const {
     qbFormular::saveGuts(f);
-    felder().schreibe(*this, f);
+    schreibeEigene(f);
 }
 
 void qbFormularAllgGesu::saveGuts(RWvostream& s) const {
     qbFormular::saveGuts(s);
-    felder().schreibe(*this, s);
+    schreibeEigene(s);
 }
 
 bool qbFormularAllgGesu::mitArbeitsplatzwechsel(int schluessel) {
@@ -33,7 +33,7 @@ static constexpr qbSchritt verworfenVor200012[] = {qbVerworfen::Flag, qbVerworfe
 template <class Strom>
 void qbFormularAllgGesu::liesGespeichert(Strom& s) {
     qbFormular::restoreGuts(s);
-    if (!hatFruehesLayout()) felder().lies(*this, s);
+    if (!hatFruehesLayout()) liesEigene(s);
     if (versionsSchluessel() < 200012)
         qbLiesLayout(*this, s, {"vor 12.2000", verworfenVor200012}, {&felder()});
 }

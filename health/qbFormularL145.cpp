@@ -39,7 +39,7 @@ void qbFormularL145::liesGespeichert(Strom& s) {
     } else if (versionsSchluessel() < 200210) {
         qbLiesLayout(*this, s, {"vor 10.2002", layoutVor200210}, {&felder(), &qbFormularAllgGesu::felder()});
     } else {
-        felder().lies(*this, s);
+        liesEigene(s);
     }
 }
 

@@ -35,7 +35,7 @@ void qbFormularL146::liesGespeichert(Strom& s) {
     if (hatFruehesLayout())
         liesFruehesLayout(s, {"10.1999", layout1999}, felder());
     else
-        felder().lies(*this, s);
+        liesEigene(s);
 }
 
 void qbFormularL146::restoreGuts(RWFile& f) { liesGespeichert(f); }

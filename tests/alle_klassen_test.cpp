@@ -2,6 +2,7 @@
 // saveGuts writes, and a round trip of random field values through every stream kind and XML.
 #include "core/qbFormular.h"
 #include "core/qbKlassen.h"
+#include "core/qbLeseBeobachter.h"
 #include "health/qbFormularAllgGesu.h"
 #include "qballg/CQBXMLdata.h"
 #include "rw/bstream.h"
@@ -298,6 +299,44 @@ TEST(Klassentabelle, BuiltRowsHaveTheIdsOfTheStoredFormatAndItsOrderOfRegistrati
         EXPECT_GE(stelle, letzte) << k.klassenName << " is registered out of order";
         letzte = stelle;
     }
+}
+
+namespace {
+// Listens and does nothing: with it installed, a restore reads through the field table row by row.
+struct StillerBeobachter : qbLeseBeobachter {
+    void layout(const char*, const char*) override {}
+    void feld(const char*, qbArt, long, long, const std::string&) override {}
+};
+} // namespace
+
+// The current layout is read by code generated from the field list, or, while an observer listens, by the
+// table: both give the same form.
+TEST_P(JedeKlasse, GeneratedReadAndTableReadOfTheCurrentLayoutAgree) {
+    const qbKlasse& k = *GetParam();
+    auto form = zufallsFormular(k, 13);
+    TempFile tmp("pfade");
+    {
+        RWFile f(tmp.path(), "wb");
+        f << *form;
+    }
+    RWCollectable* direkt = nullptr;
+    RWCollectable* perTabelle = nullptr;
+    {
+        RWFile f(tmp.path(), "rb");
+        f >> direkt;
+    }
+    StillerBeobachter beobachter;
+    qbLeseBeobachter* vorher = qbSetzeLeseBeobachter(&beobachter);
+    {
+        RWFile f(tmp.path(), "rb");
+        f >> perTabelle;
+    }
+    qbSetzeLeseBeobachter(vorher);
+    std::unique_ptr<RWCollectable> a(direkt), b(perTabelle);
+    ASSERT_TRUE(direkt && perTabelle);
+    erwarteGleich(k, static_cast<const qbFormular&>(*direkt), static_cast<const qbFormular&>(*perTabelle),
+                  "table read");
+    erwarteGleich(k, *form, static_cast<const qbFormular&>(*direkt), "generated read");
 }
 
 INSTANTIATE_TEST_SUITE_P(Klassentabelle, JedeKlasse, ::testing::ValuesIn(alleKlassen()), klassenNamen);

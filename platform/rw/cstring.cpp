@@ -202,17 +202,6 @@ void RWCString::toUpper() {
         c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
-void RWCString::saveOn(RWFile& f) const {
-    f.Write(static_cast<unsigned>(s_.size()));
-    f.Write(s_.data(), s_.size());
-}
-
-void RWCString::restoreFrom(RWFile& f) {
-    unsigned n = 0;
-    if (!f.Read(n)) return;
-    f.ReadString(s_, n);
-}
-
 void RWCString::saveOn(RWvostream& s) const {
     s << static_cast<unsigned>(s_.size());
     s.putString(s_.data(), s_.size());

@@ -3,12 +3,12 @@
 #pragma once
 
 #include "rw/defs.h"
+#include "rw/rwfile.h"
 
 #include <string>
 #include <string_view>
 
 class RWCString;
-class RWFile;
 class RWvistream;
 class RWvostream;
 
@@ -116,10 +116,16 @@ public:
     void toUpper();
 
     // Stored as a 4-byte length and the bytes (RWFile); as length and string on a virtual stream.
-    void saveOn(RWFile& f) const;
+    void saveOn(RWFile& f) const {
+        f.Write(static_cast<unsigned>(s_.size()));
+        f.Write(s_.data(), s_.size());
+    }
     void saveOn(RWvostream& s) const;
     // A length that the input cannot hold fails the stream and leaves the string unchanged.
-    void restoreFrom(RWFile& f);
+    void restoreFrom(RWFile& f) {
+        unsigned n = 0;
+        if (f.Read(n)) f.ReadString(s_, n);
+    }
     void restoreFrom(RWvistream& s);
     RWspace binaryStoreSize() const { return length() + 4; }
 

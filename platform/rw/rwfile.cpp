@@ -223,14 +223,8 @@ long long RWFile::remainingBytes() {
     return std::max<long long>(0, static_cast<long long>(st.st_size) - offset_);
 }
 
-RWBoolean RWFile::ReadString(std::string& s, size_t n) {
+RWBoolean RWFile::readStringSlow(std::string& s, size_t n) {
     if (fd_ < 0 || eof_ || error_) return false;
-    if (n <= readEnd_ - readPos_) { // all in the read-ahead: straight into s, whose storage is reused
-        s.assign(reinterpret_cast<const char*>(buf_.data() + readPos_), n);
-        readPos_ += n;
-        offset_ += static_cast<long long>(n);
-        return true;
-    }
     if (writeLen_ > 0 && !flushWrites()) return false;
     if (n > readEnd_ - readPos_ && static_cast<unsigned long long>(remainingBytes()) < n) {
         // The stored length promises more than the file holds.

@@ -73,7 +73,13 @@ public:
     RWBoolean Read(double* v, size_t n) { return readArray(v, n); }
     // Reads n bytes into s. If the file cannot hold n more bytes, the file fails and s stays unchanged:
     // no allocation is made from a stored length that the file does not back.
-    RWBoolean ReadString(std::string& s, size_t n);
+    RWBoolean ReadString(std::string& s, size_t n) {
+        if (n > readEnd_ - readPos_ || eof_ || error_) return readStringSlow(s, n);
+        s.assign(reinterpret_cast<const char*>(buf_.data() + readPos_), n); // from the read-ahead, in place
+        readPos_ += n;
+        offset_ += static_cast<long long>(n);
+        return true;
+    }
 
     RWBoolean Write(char v) { return writeRaw(&v, 1); }
     RWBoolean Write(signed char v) { return writeRaw(&v, 1); }
@@ -144,6 +150,7 @@ private:
         return writeRaw(b, sizeof b);
     }
     RWBoolean readRawSlow(void* out, size_t n);
+    RWBoolean readStringSlow(std::string& s, size_t n);
     RWBoolean writeRawSlow(const void* in, size_t n);
     bool flushWrites();
     void dropReadAhead();
