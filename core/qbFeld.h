@@ -1,5 +1,7 @@
-// The field table of a form: one row per field, in stream order, written once per form class and read by
-// the routine operations (copy, reset to defaults, save and restore of the current layout, XML, size).
+// The field table of a form: one row per field, in stream order, written once per form class (as the
+// field list QB_FELDER_<class>) and read by the routine operations: copy, reset to defaults, XML, size,
+// and the reading of a record that a read observer follows. Save and restore of the current layout are
+// code generated from the same list (qbFormularDefinition.h), with the same rows' conditions.
 //
 // A row knows the field's member, its type, its XML keys and its default. Deviations that belong to one
 // field are named modifiers on its row, for example
