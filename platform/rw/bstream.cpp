@@ -3,6 +3,7 @@
 #include "rw/endian.h"
 
 #include <cstdint>
+#include <cstring>
 #include <istream>
 #include <ostream>
 #include <type_traits>
@@ -75,7 +76,7 @@ RWbostream::RWbostream(std::streambuf* sb) : sb_(sb) {
 }
 
 void RWbostream::write(const void* p, size_t n) {
-    if (!good()) return;
+    if (!RWvios::good()) return; // the state itself, without a virtual call per value
     if (static_cast<size_t>(sb_->sputn(static_cast<const char*>(p), static_cast<std::streamsize>(n))) != n) {
         setstate(failbit | badbit);
         if (os_) os_->setstate(std::ios::badbit);
@@ -103,9 +104,17 @@ RWvostream& RWbostream::operator<<(const char* s) {
     return putString(s, std::char_traits<char>::length(s));
 }
 
+// The count and a short string go to the streambuf in one piece.
 RWvostream& RWbostream::putString(const char* s, size_t n) {
-    *this << static_cast<unsigned int>(n);
-    write(s, n);
+    unsigned char stueck[256];
+    rwwire::store<std::uint32_t>(stueck, static_cast<std::uint32_t>(n));
+    if (n <= sizeof stueck - 4) {
+        std::memcpy(stueck + 4, s, n);
+        write(stueck, 4 + n);
+    } else {
+        write(stueck, 4);
+        write(s, n);
+    }
     return *this;
 }
 
@@ -124,7 +133,7 @@ RWbistream::RWbistream(std::streambuf* sb) : sb_(sb) {
 }
 
 bool RWbistream::read(void* p, size_t n) {
-    if (!good()) return false;
+    if (!RWvios::good()) return false;
     if (static_cast<size_t>(sb_->sgetn(static_cast<char*>(p), static_cast<std::streamsize>(n))) != n) {
         setstate(failbit | eofbit);
         if (is_) is_->setstate(std::ios::failbit | std::ios::eofbit);
@@ -171,6 +180,11 @@ RWvistream& RWbistream::getString(std::string& s, size_t n) {
     if (!good()) return *this;
     if (stored != n) { // the two lengths of one string disagree: the stream is out of step
         setstate(failbit);
+        return *this;
+    }
+    if (sb_->in_avail() >= static_cast<std::streamsize>(n)) { // all buffered: straight into s
+        s.resize(n);
+        read(s.data(), n);
         return *this;
     }
     std::string value;
