@@ -58,55 +58,39 @@ struct qbFeld {
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
 
-    // Modifiers of a row.
+    // Modifiers of a row: each gives a copy of the row with one property changed.
     constexpr qbFeld xml(const char* key) const {
-        qbFeld f = *this;
-        f.xmlSchreibKey = f.xmlLeseKey = key;
-        return f;
+        return mit([&](qbFeld& f) { f.xmlSchreibKey = f.xmlLeseKey = key; });
     }
     constexpr qbFeld liesXml(const char* key) const { // read under another key than written
-        qbFeld f = *this;
-        f.xmlLeseKey = key;
-        return f;
+        return mit([&](qbFeld& f) { f.xmlLeseKey = key; });
     }
     constexpr qbFeld nurXmlSchreiben() const { // written to XML, never read back
-        qbFeld f = *this;
-        f.xmlLeseKey = nullptr;
-        return f;
+        return mit([](qbFeld& f) { f.xmlLeseKey = nullptr; });
     }
     constexpr qbFeld ohneXml() const {
-        qbFeld f = *this;
-        f.xmlSchreibKey = f.xmlLeseKey = nullptr;
-        return f;
+        return mit([](qbFeld& f) { f.xmlSchreibKey = f.xmlLeseKey = nullptr; });
     }
     constexpr qbFeld standard(long wert) const {
-        qbFeld f = *this;
-        f.standardGanz = wert;
-        f.standardZahl = static_cast<double>(wert);
-        return f;
+        return mit([&](qbFeld& f) {
+            f.standardGanz = wert;
+            f.standardZahl = static_cast<double>(wert);
+        });
     }
     constexpr qbFeld standard(const char* text) const {
-        qbFeld f = *this;
-        f.standardText = text;
-        return f;
+        return mit([&](qbFeld& f) { f.standardText = text; });
     }
     constexpr qbFeld liesAb(int versionsSchluessel) const { // the field came with that version
-        qbFeld f = *this;
-        f.liesAbSchluessel = versionsSchluessel;
-        return f;
+        return mit([&](qbFeld& f) { f.liesAbSchluessel = versionsSchluessel; });
     }
     constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
-        qbFeld f = *this;
-        f.liesWenn = bedingung;
-        return f;
+        return mit([&](qbFeld& f) { f.liesWenn = bedingung; });
+    }
+    constexpr qbFeld ohneLaengeInGroesse() const {
+        return mit([](qbFeld& f) { f.laengeInGroesse = false; });
     }
     bool gehoertZumLayout(int versionsSchluessel) const {
         return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
-    }
-    constexpr qbFeld ohneLaengeInGroesse() const {
-        qbFeld f = *this;
-        f.laengeInGroesse = false;
-        return f;
     }
 
     // Row builders, one per type. Klasse is the form that declares the member.
@@ -152,6 +136,12 @@ struct qbFeld {
     }
 
 private:
+    template <class Aenderung>
+    constexpr qbFeld mit(Aenderung aendere) const {
+        qbFeld f = *this;
+        aendere(f);
+        return f;
+    }
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
         return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
     }

@@ -355,55 +355,47 @@ RWvistream& RWpistream::operator>>(unsigned char& c) {
     return *this;
 }
 
-RWvistream& RWpistream::getString(char* s, size_t maxlen) {
-    if (!good()) return *this;
-    if (!s || maxlen == 0) { // not even the NUL fits
-        setstate(failbit);
-        return *this;
-    }
-    if (!readOpeningQuote()) return *this;
-    std::string value;
+// A quoted string of at most limit characters into value; a longer one, or a syntax error, fails the
+// stream. The buffer grows only with the characters that arrive.
+bool RWpistream::readQuoted(std::string& value, size_t limit) {
+    if (!readOpeningQuote()) return false;
     for (;;) {
         unsigned char c = 0;
         switch (readStringUnit(c)) {
         case Unit::error:
-            return *this;
+            return false;
         case Unit::quote:
-            std::memcpy(s, value.data(), value.size());
-            s[value.size()] = '\0';
-            return *this;
+            return true;
         case Unit::character:
-            if (value.size() == maxlen - 1) {
+            if (value.size() == limit) {
                 syntaxError(false);
-                return *this;
+                return false;
             }
             value.push_back(static_cast<char>(c));
         }
     }
 }
 
-RWvistream& RWpistream::getString(std::string& s, size_t n) {
-    if (!readOpeningQuote()) return *this;
-    std::string value;
-    for (;;) {
-        unsigned char c = 0;
-        switch (readStringUnit(c)) {
-        case Unit::error:
-            return *this;
-        case Unit::quote:
-            // The length stored before the string and the string disagree: the stream is out of step.
-            if (value.size() != n) {
-                syntaxError(false);
-                return *this;
-            }
-            s.swap(value);
-            return *this;
-        case Unit::character:
-            if (value.size() == n) {
-                syntaxError(false);
-                return *this;
-            }
-            value.push_back(static_cast<char>(c));
-        }
+RWvistream& RWpistream::getString(char* s, size_t maxlen) {
+    if (!good()) return *this;
+    if (!s || maxlen == 0) { // not even the NUL fits
+        setstate(failbit);
+        return *this;
     }
+    std::string value;
+    if (!readQuoted(value, maxlen - 1)) return *this;
+    std::memcpy(s, value.data(), value.size());
+    s[value.size()] = '\0';
+    return *this;
+}
+
+RWvistream& RWpistream::getString(std::string& s, size_t n) {
+    std::string value;
+    if (!readQuoted(value, n)) return *this;
+    // The length stored before the string and the string disagree: the stream is out of step.
+    if (value.size() != n)
+        syntaxError(false);
+    else
+        s.swap(value);
+    return *this;
 }

@@ -92,6 +92,7 @@ private:
     bool readCharacter(unsigned char& c);
     Unit readStringUnit(unsigned char& c);
     bool readOpeningQuote();
+    bool readQuoted(std::string& value, size_t limit);
     std::streambuf* sb_;
     std::istream* is_ = nullptr;
 };
