@@ -79,41 +79,6 @@ const qbFeld* qbFeldTabelle::suche(const char* name) const {
     return nullptr;
 }
 
-void qbFeldTabelle::setzeStandard(qbFormular& form) const {
-    for (const qbFeld& z : *this) {
-        switch (z.art) {
-        case qbArt::Text: // most defaults are empty, like a new string: no assignment then
-            if (*z.standardText || !(form.*z.mitglied.text).isNull()) form.*z.mitglied.text = z.standardText;
-            break;
-        case qbArt::Flag:
-            form.*z.mitglied.flag = static_cast<unsigned char>(z.standardGanz);
-            break;
-        case qbArt::Char:
-            form.*z.mitglied.zeichen = static_cast<char>(z.standardGanz);
-            break;
-        case qbArt::Bool:
-            form.*z.mitglied.wahrheit = z.standardGanz != 0;
-            break;
-        case qbArt::Int:
-        case qbArt::Enum:
-            form.*z.mitglied.ganz = static_cast<int>(z.standardGanz);
-            break;
-        case qbArt::Long:
-            form.*z.mitglied.lang = z.standardGanz;
-            break;
-        case qbArt::Double:
-            form.*z.mitglied.zahl = z.standardZahl;
-            break;
-        case qbArt::Date:
-            form.*z.mitglied.datum = RWDate::fromJulian(0);
-            break;
-        case qbArt::Person:
-            (form.*z.mitglied.person).loesche();
-            break;
-        }
-    }
-}
-
 void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
     for (const qbFeld& z : *this)
         mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });

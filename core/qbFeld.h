@@ -1,7 +1,7 @@
 // The field table of a form: one row per field, in stream order, written once per form class (as the
-// field list QB_FELDER_<class>) and read by the routine operations: copy, reset to defaults, XML, size,
-// and the reading of a record that a read observer follows. Save and restore of the current layout are
-// code generated from the same list (qbFormularDefinition.h), with the same rows' conditions.
+// field list QB_FELDER_<class>) and read by the routine operations: copy, XML, size, and the reading of a
+// record that a read observer follows. Save and restore of the current layout and the defaults of a new
+// object are code generated from the same list and rows (qbFormularDefinition.h).
 //
 // A row knows the field's member, its type, its XML keys and its default. Deviations that belong to one
 // field are named modifiers on its row, for example
@@ -162,7 +162,6 @@ public:
     size_t size() const { return anzahl_; }
     const qbFeld* suche(const char* name) const; // the row of a field, or null
 
-    void setzeStandard(qbFormular& form) const;
     void kopiere(qbFormular& ziel, const qbFormular& quelle) const;
 
     void schreibe(const qbFormular& form, RWFile& f) const;

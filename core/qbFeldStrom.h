@@ -1,10 +1,28 @@
-// One field on a stream, chosen at compile time by its type: the current layout of a form, generated
-// from its field list, reads and writes through these without consulting the table row by row.
+// One field on a stream or set to its default, chosen at compile time by its type: the current layout and
+// the defaults of a form, generated from its field list, go through these without consulting the table
+// row by row.
 #pragma once
 
 #include "core/qbFeld.h"
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
+
+// The row's default; an empty default leaves an empty text alone (no assignment on a fresh object).
+template <qbArt Art, class T>
+inline void qbSetzeStandard(T& v, const qbFeld& zeile) {
+    if constexpr (Art == qbArt::Text) {
+        if (*zeile.standardText || !v.isNull()) v = zeile.standardText;
+    } else if constexpr (Art == qbArt::Date)
+        v = RWDate::fromJulian(0);
+    else if constexpr (Art == qbArt::Person)
+        v.loesche();
+    else if constexpr (Art == qbArt::Double)
+        v = zeile.standardZahl;
+    else if constexpr (Art == qbArt::Bool)
+        v = zeile.standardGanz != 0;
+    else
+        v = static_cast<T>(zeile.standardGanz);
+}
 
 template <qbArt Art, class T>
 inline void qbSchreibe(RWFile& f, const T& v) {

@@ -13,6 +13,8 @@
 #include "rw/collect.h"
 #include "rw/cstring.h"
 
+#include <cstddef>
+
 class CQBXMLdata;
 struct qbKlasse;
 
@@ -22,6 +24,10 @@ public:
     qbFormular(const qbFormular& other);
     qbFormular& operator=(const qbFormular& other);
     ~qbFormular() override;
+
+    // Forms are created and deleted through a small cache of blocks (see qbFormularSpeicher.cpp).
+    static void* operator new(std::size_t n);
+    static void operator delete(void* p, std::size_t n) noexcept;
 
     RWCollectable* newSpecies() const override;
     RWCollectable* copy() const override;

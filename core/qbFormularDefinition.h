@@ -18,9 +18,13 @@
 #define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
     {                                                                                                        \
         static constexpr qbFeld zeile = qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__;            \
-        if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) ||                                              \
-            zeile.gehoertZumLayout(versionsSchluessel()))                                                    \
+        if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))        \
             qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                          \
+    }
+#define QB_FELD_STANDARD(Typ, Name, ...)                                                                     \
+    {                                                                                                        \
+        static constexpr qbFeld zeile = qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__;            \
+        qbSetzeStandard<qbArt::QB_ZEILE_##Typ>(Name, zeile);                                                 \
     }
 
 // Identity, field table, copy construction and assignment (base first, then the own fields), and the
@@ -53,15 +57,24 @@
         using Selbst = Klasse;                                                                               \
         if constexpr (std::is_same_v<Strom, RWFile>)                                                         \
             if (qbAktuellerLeseBeobachter()) return felder().lies(*this, s);                                 \
+        /* The stored version's key, worked out at the first row that depends on it. */                     \
+        int gemerkt = 0;                                                                                     \
+        [[maybe_unused]] auto schluessel = [&] {                                                             \
+            return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
+        };                                                                                                   \
         Felder(QB_FELD_LESEN)                                                                                \
+    }                                                                                                        \
+    void Klasse::setzeStandard() {                                                                           \
+        using Selbst = Klasse;                                                                               \
+        Felder(QB_FELD_STANDARD)                                                                             \
     }                                                                                                        \
     QB_KLASSEN_EINSTIEG(Klasse)
 
-// Default constructor: the base's defaults, the table's defaults, then the header constants of the class
-// table.
+// Default constructor: the base's defaults, the own fields' defaults, then the header constants of the
+// class table.
 #define QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                      \
     Klasse::Klasse() {                                                                                       \
-        felder().setzeStandard(*this);                                                                       \
+        setzeStandard();                                                                                     \
         setzeKopf(qbKlassen[qbIndex_##Klasse]);                                                              \
     }
 

@@ -119,6 +119,8 @@ protected:                                                                      
     void schreibeEigene(Strom& s) const;                                                                   \
     template <class Strom>                                                                                 \
     void liesEigene(Strom& s);                                                                             \
+    /* The own fields' defaults, as straight code from Felder. */                                          \
+    void setzeStandard();                                                                                  \
     Felder(QB_FELD_MITGLIED)                                                                               \
                                                                                                            \
 public:

@@ -9,7 +9,7 @@ QB_FORMULAR_XML(qbFormularAllgGesu)
 QB_FORMULAR_LOESCHE(qbFormularAllgGesu)
 
 // The base sets no header constants: a usable print piece is always one of the derived forms.
-qbFormularAllgGesu::qbFormularAllgGesu() { felder().setzeStandard(*this); }
+qbFormularAllgGesu::qbFormularAllgGesu() { setzeStandard(); }
 
 // The base does not stamp a version: only a concrete form does.
 void qbFormularAllgGesu::saveGuts(RWFile& f) const {

@@ -11,7 +11,7 @@ QB_FORMULAR_LOESCHE(qbFormularL146)
 
 // Unlike the rest of the family, the common Dauer starts at 0.
 qbFormularL146::qbFormularL146() {
-    felder().setzeStandard(*this);
+    setzeStandard();
     setzeKopf(qbKlassen[qbIndex_qbFormularL146]);
     Dauer = 0;
 }
