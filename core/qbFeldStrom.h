@@ -7,6 +7,9 @@
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
+#include <cstdint>
+#include <cstring>
+
 // The row's default; an empty default leaves an empty text alone (no assignment on a fresh object).
 template <qbArt Art, class T>
 inline void qbSetzeStandard(T& v, const qbFeld& zeile) {
@@ -34,6 +37,65 @@ inline void qbSchreibe(RWFile& f, const T& v) {
         f.Write(static_cast<char>(v)); // one char
     else
         f.Write(v);
+}
+
+// A record part written in place into RWFile's buffer: first counted, then stored through a pointer with
+// no check per field, as a hand-written encoder would. The bytes are those of qbSchreibe(RWFile&, ...).
+struct qbZaehler {
+    size_t bytes = 0;
+    bool amStueck = true; // false once a field has no fixed encoding here (a Person's own record)
+};
+struct qbRohSchreiber {
+    unsigned char* p;
+};
+
+template <qbArt Art, class T>
+inline void qbSchreibe(qbZaehler& z, const T& v) {
+    if constexpr (Art == qbArt::Text)
+        z.bytes += 4 + v.length();
+    else if constexpr (Art == qbArt::Person)
+        z.amStueck = false;
+    else if constexpr (Art == qbArt::Date || Art == qbArt::Int || Art == qbArt::Long)
+        z.bytes += 4;
+    else if constexpr (Art == qbArt::Double)
+        z.bytes += 8;
+    else
+        z.bytes += 1;
+}
+
+template <qbArt Art, class T>
+inline void qbSchreibe(qbRohSchreiber& r, const T& v) {
+    if constexpr (Art == qbArt::Text) {
+        rwwire::store<std::uint32_t>(r.p, static_cast<std::uint32_t>(v.length()));
+        std::memcpy(r.p + 4, v.data(), v.length());
+        r.p += 4 + v.length();
+    } else if constexpr (Art == qbArt::Date) {
+        rwwire::store<std::uint32_t>(r.p, static_cast<std::uint32_t>(v.julian()));
+        r.p += 4;
+    } else if constexpr (Art == qbArt::Int || Art == qbArt::Long) { // a long narrowed to 4 bytes
+        rwwire::store<std::int32_t>(r.p, static_cast<std::int32_t>(v));
+        r.p += 4;
+    } else if constexpr (Art == qbArt::Double) {
+        rwwire::store<double>(r.p, v);
+        r.p += 8;
+    } else if constexpr (Art != qbArt::Person) { // Flag, Char, Bool and Enum: one byte
+        *r.p++ = static_cast<unsigned char>(static_cast<char>(v));
+    }
+}
+
+// Writes a record part with schreibe(sink): in place when the file's buffer takes it, else field by field.
+template <class Schreibe>
+inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
+    qbZaehler zaehler;
+    schreibe(zaehler);
+    if (zaehler.amStueck)
+        if (unsigned char* p = f.reserveWrite(zaehler.bytes)) {
+            qbRohSchreiber roh{p};
+            schreibe(roh);
+            f.commitWrite(zaehler.bytes);
+            return;
+        }
+    schreibe(f);
 }
 
 // Date and Person never travel on a virtual stream.

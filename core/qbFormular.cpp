@@ -8,9 +8,6 @@
 
 #include <cstdlib>
 
-// The header gained Seitenanzahl with 11.2001.
-static constexpr int kSeitenanzahlAb = 200111;
-
 int qbVersionsSchluessel(const RWCString& version) {
     // Every record this library writes has "MM.YYYY": read it without building strings.
     const std::string& v = version.std();
@@ -27,18 +24,17 @@ int qbVersionsSchluessel(const RWCString& version) {
 unsigned short qbFormular::myAtom = qbId_qbFormular;
 unsigned short qbFormular::classIsA() { return myAtom; }
 
-// Seitenanzahl of a bare base object is not a class constant; 0 is its defined value here.
-qbFormular::qbFormular() : Seitenanzahl(0) {}
+QB_FELDTABELLE(qbFormular, QB_FELDER_qbFormular)
+QB_FELDER_ALS_CODE(qbFormular, QB_FELDER_qbFormular)
 
-qbFormular::qbFormular(const qbFormular& other) : RWCollectable(), Seitenanzahl(0) { *this = other; }
+// Seitenanzahl of a bare base object is not a class constant; its row's default 0 is its value here.
+qbFormular::qbFormular() { setzeStandard(); }
+
+qbFormular::qbFormular(const qbFormular& other) : RWCollectable() { *this = other; }
 
 // Assigns the five header fields in order; the RWCollectable part is left alone.
 qbFormular& qbFormular::operator=(const qbFormular& other) {
-    Version = other.Version;
-    DruckstueckNummer = other.DruckstueckNummer;
-    DruckstueckName = other.DruckstueckName;
-    Seitenanzahl = other.Seitenanzahl;
-    PersonenKennung = other.PersonenKennung;
+    felder().kopiere(*this, other);
     return *this;
 }
 
@@ -64,19 +60,6 @@ RWBoolean qbFormular::isEqual(const RWCollectable* other) const {
     return o && DruckstueckNummer == o->DruckstueckNummer && PersonenKennung == o->PersonenKennung;
 }
 
-const qbFeldTabelle& qbFormular::felder() {
-    using F = qbFormular;
-    static constexpr qbFeld zeilen[] = {
-        qbFeld::Text(&F::Version, "Version").nurXmlSchreiben(),
-        qbFeld::Text(&F::DruckstueckNummer, "DruckstueckNummer"),
-        qbFeld::Text(&F::DruckstueckName, "DruckstueckName"),
-        qbFeld::Int(&F::Seitenanzahl, "Seitenanzahl").liesAb(kSeitenanzahlAb).nurXmlSchreiben(),
-        qbFeld::Text(&F::PersonenKennung, "PersonenKennung"),
-    };
-    static constexpr qbFeldTabelle tabelle("qbFormular", zeilen);
-    return tabelle;
-}
-
 // Four string lengths of 4 bytes and Seitenanzahl: 20 fixed bytes.
 RWspace qbFormular::binaryStoreSize() const {
     return RWCollectable::binaryStoreSize() + felder().groesse(*this);
@@ -84,22 +67,22 @@ RWspace qbFormular::binaryStoreSize() const {
 
 void qbFormular::saveGuts(RWFile& f) const {
     RWCollectable::saveGuts(f);
-    felder().schreibe(*this, f);
+    schreibeEigene(f);
 }
 
 void qbFormular::saveGuts(RWvostream& s) const {
     RWCollectable::saveGuts(s);
-    felder().schreibe(*this, s);
+    schreibeEigene(s);
 }
 
 void qbFormular::restoreGuts(RWFile& f) {
     RWCollectable::restoreGuts(f);
-    felder().lies(*this, f);
+    liesEigene(f);
 }
 
 void qbFormular::restoreGuts(RWvistream& s) {
     RWCollectable::restoreGuts(s);
-    felder().lies(*this, s);
+    liesEigene(s);
 }
 
 void qbFormular::loesche() { PersonenKennung = ""; }

@@ -18,6 +18,15 @@
 class CQBXMLdata;
 struct qbKlasse;
 
+// The header's field list (see qbFormularMakros.h); its members are declared by hand below, Version
+// mutable. Seitenanzahl came with 11.2001; Version and Seitenanzahl go into XML but are never read back.
+#define QB_FELDER_qbFormular(FELD)                                                                           \
+    FELD(Text, Version, .nurXmlSchreiben())                                                                  \
+    FELD(Text, DruckstueckNummer)                                                                            \
+    FELD(Text, DruckstueckName)                                                                              \
+    FELD(Int, Seitenanzahl, .liesAb(200111).nurXmlSchreiben())                                               \
+    FELD(Text, PersonenKennung)
+
 class qbFormular : public RWCollectable {
 public:
     qbFormular();
@@ -70,6 +79,13 @@ protected:
     void stempele(const char* version) const { Version = version; }
     // The version key of the stored Version (year * 100 + month).
     int versionsSchluessel() const;
+
+    // The header fields as code from the field list, like the own fields of every form.
+    template <class Strom>
+    void schreibeEigene(Strom& s) const;
+    template <class Strom>
+    void liesEigene(Strom& s);
+    void setzeStandard();
 
     mutable RWCString Version;
     RWCString DruckstueckNummer;

@@ -27,30 +27,25 @@
         qbSetzeStandard<qbArt::QB_ZEILE_##Typ>(Name, zeile);                                                 \
     }
 
-// Identity, field table, copy construction and assignment (base first, then the own fields), and the
-// entry points of the class table (creator, copy for the list, assignment for the list, XML import).
-#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
-    unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
-    unsigned short Klasse::classIsA() { return myAtom; }                                                     \
-    RWClassID Klasse::isA() const { return myAtom; }                                                         \
-    RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
-    RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
+// The field table of the class, from its field list.
+#define QB_FELDTABELLE(Klasse, Felder)                                                                       \
     const qbFeldTabelle& Klasse::felder() {                                                                  \
         using Selbst = Klasse;                                                                               \
         static constexpr qbFeld zeilen[] = {Felder(QB_FELD_ZEILE)};                                          \
         static constexpr qbFeldTabelle tabelle(#Klasse, zeilen);                                             \
         return tabelle;                                                                                      \
-    }                                                                                                        \
-    Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
-    Klasse& Klasse::operator=(const Klasse& other) {                                                         \
-        Basisklasse::operator=(other);                                                                       \
-        felder().kopiere(*this, other);                                                                      \
-        return *this;                                                                                        \
-    }                                                                                                        \
-    Klasse::~Klasse() = default;                                                                             \
+    }
+
+// The own fields as straight code from the field list: the current layout written and read, and the
+// defaults of a new object. The read goes through the table instead while an observer listens.
+#define QB_FELDER_ALS_CODE(Klasse, Felder)                                                                   \
     template <class Strom>                                                                                   \
-    void Klasse::schreibeEigene(Strom& s) const {                                                            \
-        Felder(QB_FELD_SCHREIBEN)                                                                            \
+    void Klasse::schreibeEigene(Strom& strom) const {                                                        \
+        auto schreibe = [this](auto& s) { Felder(QB_FELD_SCHREIBEN) };                                       \
+        if constexpr (std::is_same_v<Strom, RWFile>)                                                         \
+            qbSchreibeAmStueck(strom, schreibe);                                                             \
+        else                                                                                                 \
+            schreibe(strom);                                                                                 \
     }                                                                                                        \
     template <class Strom>                                                                                   \
     void Klasse::liesEigene(Strom& s) {                                                                      \
@@ -67,7 +62,25 @@
     void Klasse::setzeStandard() {                                                                           \
         using Selbst = Klasse;                                                                               \
         Felder(QB_FELD_STANDARD)                                                                             \
+    }
+
+// Identity, field table, copy construction and assignment (base first, then the own fields), and the
+// entry points of the class table (creator, copy for the list, assignment for the list, XML import).
+#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+    unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
+    unsigned short Klasse::classIsA() { return myAtom; }                                                     \
+    RWClassID Klasse::isA() const { return myAtom; }                                                         \
+    RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
+    RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
+    QB_FELDTABELLE(Klasse, Felder)                                                                           \
+    Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
+    Klasse& Klasse::operator=(const Klasse& other) {                                                         \
+        Basisklasse::operator=(other);                                                                       \
+        felder().kopiere(*this, other);                                                                      \
+        return *this;                                                                                        \
     }                                                                                                        \
+    Klasse::~Klasse() = default;                                                                             \
+    QB_FELDER_ALS_CODE(Klasse, Felder)                                                                       \
     QB_KLASSEN_EINSTIEG(Klasse)
 
 // Default constructor: the base's defaults, the own fields' defaults, then the header constants of the

@@ -224,3 +224,74 @@ TEST(RWFile, LargeRecordsCrossTheBufferBoundary) {
     ASSERT_TRUE(f.Read(last));
     EXPECT_EQ(last, -7);
 }
+
+TEST(RWFile, ReservedRoomWrittenInPlaceReachesTheFileAtTheOffsetAfterCommit) {
+    TempFile tmp("inplace");
+    {
+        RWFile f(tmp.path(), "wb");
+        f.Write('<');
+        unsigned char* p = f.reserveWrite(3);
+        ASSERT_NE(p, nullptr);
+        p[0] = 'a';
+        p[1] = 'b';
+        p[2] = 'c';
+        f.commitWrite(3);
+        EXPECT_EQ(f.CurOffset(), 4);
+        f.Write('>');
+    }
+    EXPECT_EQ(hex(readBytes(tmp.path())), hex(bytesOf("<abc>")));
+}
+
+TEST(RWFile, ReservedRoomAtTheBufferEndFlushesFirstSoNoByteIsLost) {
+    TempFile tmp("inplace-full");
+    const size_t stueck = 1000, anzahl = 200; // 200 kB through a 64 kB buffer
+    {
+        RWFile f(tmp.path(), "wb");
+        for (size_t i = 0; i < anzahl; ++i) {
+            unsigned char* p = f.reserveWrite(stueck);
+            ASSERT_NE(p, nullptr) << i;
+            std::memset(p, static_cast<int>('A' + i % 26), stueck);
+            f.commitWrite(stueck);
+        }
+    }
+    const Bytes bytes = readBytes(tmp.path());
+    ASSERT_EQ(bytes.size(), stueck * anzahl);
+    for (size_t i = 0; i < bytes.size(); ++i)
+        ASSERT_EQ(bytes[i], 'A' + i / stueck % 26) << i;
+}
+
+TEST(RWFile, NoReservedRoomBeyondTheBufferOrOnAFileThatCannotWrite) {
+    TempFile tmp("inplace-none");
+    {
+        RWFile f(tmp.path(), "wb");
+        EXPECT_EQ(f.reserveWrite(1 << 20), nullptr); // larger than the buffer: write it piece by piece
+        EXPECT_EQ(f.CurOffset(), 0);
+    }
+    RWFile closed(nullptr);
+    EXPECT_EQ(closed.reserveWrite(4), nullptr);
+    RWFile nurLesen(tmp.path(), "rb");
+    ASSERT_TRUE(nurLesen.isValid());
+    nurLesen.Write(1);
+    EXPECT_FALSE(nurLesen.Flush()); // the descriptor refuses the write: the file fails
+    EXPECT_EQ(nurLesen.reserveWrite(4), nullptr);
+}
+
+TEST(RWFile, ReservedRoomAfterReadingIsWrittenAtTheLogicalPosition) {
+    TempFile tmp("inplace-update");
+    {
+        RWFile f(tmp.path(), "wb");
+        f.Write("0123456789", 10);
+    }
+    {
+        RWFile f(tmp.path()); // for update
+        char c[3];
+        ASSERT_TRUE(f.Read(c, 3)); // the read-ahead holds the whole file
+        unsigned char* p = f.reserveWrite(2);
+        ASSERT_NE(p, nullptr);
+        p[0] = 'x';
+        p[1] = 'y';
+        f.commitWrite(2);
+        EXPECT_EQ(f.CurOffset(), 5);
+    }
+    EXPECT_EQ(hex(readBytes(tmp.path())), hex(bytesOf("012xy56789")));
+}

@@ -163,6 +163,15 @@ RWBoolean RWFile::writeRawSlow(const void* in, size_t n) {
     return true;
 }
 
+unsigned char* RWFile::reserveWriteSlow(size_t n) {
+    if (fd_ < 0 || error_) return nullptr;
+    if (readEnd_ > readPos_ || readEnd_ != 0) dropReadAhead();
+    if (buf_.size() < kBufferSize) buf_.resize(kBufferSize);
+    if (n > buf_.size()) return nullptr; // written piece by piece, a large block straight to the file
+    if (writeLen_ + n > buf_.size() && !flushWrites()) return nullptr;
+    return buf_.data() + writeLen_;
+}
+
 RWBoolean RWFile::readRawSlow(void* out, size_t n) {
     if (fd_ < 0 || eof_ || error_) return false;
     if (writeLen_ > 0 && !flushWrites()) return false;

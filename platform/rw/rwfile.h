@@ -107,6 +107,19 @@ public:
     RWBoolean Write(const float* v, size_t n) { return writeArray(v, n); }
     RWBoolean Write(const double* v, size_t n) { return writeArray(v, n); }
 
+    // Writing in place, for a caller that knows how many bytes a record part takes: room for n bytes in
+    // the write buffer, or null when the buffer cannot take them (then write as usual). The caller fills
+    // the n bytes and hands them over with commitWrite(n), with no other call on the file in between.
+    unsigned char* reserveWrite(size_t n) {
+        if (buf_.size() - writeLen_ < n || buf_.empty() || readEnd_ != 0 || error_)
+            return reserveWriteSlow(n);
+        return buf_.data() + writeLen_;
+    }
+    void commitWrite(size_t n) {
+        writeLen_ += n;
+        offset_ += static_cast<long long>(n);
+    }
+
 private:
     template <class T>
     RWBoolean readArray(T* v, size_t n) {
@@ -152,6 +165,7 @@ private:
     RWBoolean readRawSlow(void* out, size_t n);
     RWBoolean readStringSlow(std::string& s, size_t n);
     RWBoolean writeRawSlow(const void* in, size_t n);
+    unsigned char* reserveWriteSlow(size_t n);
     bool flushWrites();
     void dropReadAhead();
     long long remainingBytes();
