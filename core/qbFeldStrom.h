@@ -123,6 +123,68 @@ inline void qbLies(RWFile& f, T& v) {
         f.Read(v);
 }
 
+// A record part read in place from RWFile's read-ahead, through a local cursor with one bounds check per
+// field, as a hand-written decoder would. A field the read-ahead does not hold whole (and every Date and
+// Person) is read from the file as usual, after the cursor has handed back what it consumed: the result
+// is always that of qbLies(RWFile&, ...) field after field.
+class qbLesefenster {
+public:
+    explicit qbLesefenster(RWFile& f) : f_(f) { hole(); }
+    ~qbLesefenster() { f_.commitRead(static_cast<size_t>(p_ - anfang_)); }
+    qbLesefenster(const qbLesefenster&) = delete;
+    qbLesefenster& operator=(const qbLesefenster&) = delete;
+
+    template <qbArt Art, class T>
+    void lies(T& v) {
+        constexpr size_t breite = Art == qbArt::Text || Art == qbArt::Int || Art == qbArt::Long ? 4
+                                  : Art == qbArt::Double                                        ? 8
+                                                                                                : 1;
+        if constexpr (Art != qbArt::Date && Art != qbArt::Person) {
+            if (static_cast<size_t>(ende_ - p_) >= breite) {
+                if constexpr (Art == qbArt::Text) {
+                    const size_t n = rwwire::load<std::uint32_t>(p_);
+                    if (static_cast<size_t>(ende_ - p_) - 4 >= n) {
+                        v.std().assign(reinterpret_cast<const char*>(p_ + 4), n);
+                        p_ += 4 + n;
+                        return;
+                    }
+                } else {
+                    if constexpr (Art == qbArt::Int || Art == qbArt::Long)
+                        v = rwwire::load<std::int32_t>(p_); // a long sign-extended from 4 bytes
+                    else if constexpr (Art == qbArt::Double)
+                        v = rwwire::load<double>(p_);
+                    else if constexpr (Art == qbArt::Bool)
+                        v = *p_ == 1;
+                    else if constexpr (Art == qbArt::Enum)
+                        v = static_cast<signed char>(*p_);
+                    else
+                        v = static_cast<T>(*p_);
+                    p_ += breite;
+                    return;
+                }
+            }
+        }
+        f_.commitRead(static_cast<size_t>(p_ - anfang_));
+        qbLies<Art>(f_, v);
+        hole();
+    }
+
+private:
+    void hole() {
+        size_t n = 0;
+        anfang_ = p_ = f_.readWindow(n);
+        ende_ = p_ + n;
+    }
+    RWFile& f_;
+    const unsigned char* anfang_;
+    const unsigned char* p_;
+    const unsigned char* ende_;
+};
+template <qbArt Art, class T>
+inline void qbLies(qbLesefenster& fenster, T& v) {
+    fenster.lies<Art>(v);
+}
+
 // A failed stream reads nothing into the form.
 template <qbArt Art, class T>
 inline void qbLies(RWvistream& s, T& v) {

@@ -8,14 +8,7 @@
 
 #include <cstdlib>
 
-int qbVersionsSchluessel(const RWCString& version) {
-    // Every record this library writes has "MM.YYYY": read it without building strings.
-    const std::string& v = version.std();
-    auto ziffer = [](char c) { return c >= '0' && c <= '9'; };
-    if (v.size() == 7 && ziffer(v[0]) && ziffer(v[1]) && v[2] == '.' && ziffer(v[3]) && ziffer(v[4]) &&
-        ziffer(v[5]) && ziffer(v[6]))
-        return ((v[3] - '0') * 1000 + (v[4] - '0') * 100 + (v[5] - '0') * 10 + (v[6] - '0')) * 100 +
-               (v[0] - '0') * 10 + (v[1] - '0');
+int qbVersionsSchluesselAllgemein(const RWCString& version) {
     RWCString monat = version(0, 2);
     RWCString jahr = version(3, 4);
     return std::atoi(jahr + monat);
@@ -51,8 +44,6 @@ void qbFormular::setzeKopf(const qbKlasse& klasse) {
     Seitenanzahl = klasse.seiten;
     PersonenKennung = klasse.person;
 }
-
-int qbFormular::versionsSchluessel() const { return qbVersionsSchluessel(Version); }
 
 // The list compares forms with forms only; anything else is not equal.
 RWBoolean qbFormular::isEqual(const RWCollectable* other) const {

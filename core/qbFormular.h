@@ -97,4 +97,16 @@ protected:
 // The key of a version text MM.YYYY: the four characters at position 3 and the two at position 0, joined
 // and read with atoi. "10.2002" gives 200210; anything behind the year is ignored; a text atoi cannot read
 // gives 0 or a partial number.
-int qbVersionsSchluessel(const RWCString& version);
+int qbVersionsSchluesselAllgemein(const RWCString& version);
+inline int qbVersionsSchluessel(const RWCString& version) {
+    // Every record this library writes has "MM.YYYY": read it in place (a restore asks several times).
+    const std::string& v = version.std();
+    auto ziffer = [](char c) { return c >= '0' && c <= '9'; };
+    if (v.size() == 7 && ziffer(v[0]) && ziffer(v[1]) && v[2] == '.' && ziffer(v[3]) && ziffer(v[4]) &&
+        ziffer(v[5]) && ziffer(v[6]))
+        return ((v[3] - '0') * 1000 + (v[4] - '0') * 100 + (v[5] - '0') * 10 + (v[6] - '0')) * 100 +
+               (v[0] - '0') * 10 + (v[1] - '0');
+    return qbVersionsSchluesselAllgemein(version);
+}
+
+inline int qbFormular::versionsSchluessel() const { return qbVersionsSchluessel(Version); }

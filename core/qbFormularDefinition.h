@@ -48,16 +48,20 @@
             schreibe(strom);                                                                                 \
     }                                                                                                        \
     template <class Strom>                                                                                   \
-    void Klasse::liesEigene(Strom& s) {                                                                      \
+    void Klasse::liesEigene(Strom& strom) {                                                                  \
         using Selbst = Klasse;                                                                               \
-        if constexpr (std::is_same_v<Strom, RWFile>)                                                         \
-            if (qbAktuellerLeseBeobachter()) return felder().lies(*this, s);                                 \
         /* The stored version's key, worked out at the first row that depends on it. */                     \
         int gemerkt = 0;                                                                                     \
         [[maybe_unused]] auto schluessel = [&] {                                                             \
             return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
         };                                                                                                   \
-        Felder(QB_FELD_LESEN)                                                                                \
+        auto lies = [&](auto& s) { Felder(QB_FELD_LESEN) };                                                  \
+        if constexpr (std::is_same_v<Strom, RWFile>) {                                                       \
+            if (qbAktuellerLeseBeobachter()) return felder().lies(*this, strom);                             \
+            qbLesefenster fenster(strom);                                                                    \
+            lies(fenster);                                                                                   \
+        } else                                                                                               \
+            lies(strom);                                                                                     \
     }                                                                                                        \
     void Klasse::setzeStandard() {                                                                           \
         using Selbst = Klasse;                                                                               \

@@ -16,6 +16,7 @@
 #include "legacy_fixture.h"
 #include "test_util.h"
 
+#include <cstdio>
 #include <memory>
 #include <sstream>
 #include <typeinfo>
@@ -482,6 +483,15 @@ TEST(FormularVersion, UnreadableOrEmptyVersionGivesZeroOrAPartialNumber) {
     EXPECT_EQ(qbVersionsSchluessel(""), 0);
     EXPECT_EQ(qbVersionsSchluessel("ab.cdef"), 0);
     EXPECT_EQ(qbVersionsSchluessel("10.20x1"), 20); // "20x1" + "10": atoi stops at the x
+}
+
+TEST(FormularVersion, ReadingMMYYYYInPlaceGivesWhatTheGeneralRuleGives) {
+    char text[8];
+    for (int jahr = 1990; jahr < 2100; ++jahr)
+        for (int monat = 0; monat < 100; ++monat) {
+            std::snprintf(text, sizeof text, "%02d.%04d", monat, jahr);
+            ASSERT_EQ(qbVersionsSchluessel(text), qbVersionsSchluesselAllgemein(text)) << text;
+        }
 }
 
 // ==== The stored header

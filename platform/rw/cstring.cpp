@@ -214,12 +214,6 @@ void RWCString::restoreFrom(RWvistream& s) {
     s.getString(s_, n);
 }
 
-RWBoolean operator==(const RWCString& a, const RWCString& b) { return a.std() == b.std(); }
-RWBoolean operator==(const RWCString& a, const char* b) { return a.std() == std::string_view(b ? b : ""); }
-RWBoolean operator==(const char* a, const RWCString& b) { return b == a; }
-RWBoolean operator!=(const RWCString& a, const RWCString& b) { return !(a == b); }
-RWBoolean operator!=(const RWCString& a, const char* b) { return !(a == b); }
-RWBoolean operator!=(const char* a, const RWCString& b) { return !(b == a); }
 RWBoolean operator<(const RWCString& a, const RWCString& b) { return a.compareTo(b) < 0; }
 RWBoolean operator<(const RWCString& a, const char* b) { return a.compareTo(b) < 0; }
 RWBoolean operator<(const char* a, const RWCString& b) { return b.compareTo(a) > 0; }

@@ -134,12 +134,15 @@ private:
     std::string s_;
 };
 
-RWBoolean operator==(const RWCString& a, const RWCString& b);
-RWBoolean operator==(const RWCString& a, const char* b);
-RWBoolean operator==(const char* a, const RWCString& b);
-RWBoolean operator!=(const RWCString& a, const RWCString& b);
-RWBoolean operator!=(const RWCString& a, const char* b);
-RWBoolean operator!=(const char* a, const RWCString& b);
+// Inline: the forms compare texts with literals on every read of a record.
+inline RWBoolean operator==(const RWCString& a, const RWCString& b) { return a.std() == b.std(); }
+inline RWBoolean operator==(const RWCString& a, const char* b) {
+    return std::string_view(a.std()) == std::string_view(b ? b : "");
+}
+inline RWBoolean operator==(const char* a, const RWCString& b) { return b == a; }
+inline RWBoolean operator!=(const RWCString& a, const RWCString& b) { return !(a == b); }
+inline RWBoolean operator!=(const RWCString& a, const char* b) { return !(a == b); }
+inline RWBoolean operator!=(const char* a, const RWCString& b) { return !(b == a); }
 RWBoolean operator<(const RWCString& a, const RWCString& b);
 RWBoolean operator<(const RWCString& a, const char* b);
 RWBoolean operator<(const char* a, const RWCString& b);

@@ -120,6 +120,17 @@ public:
         offset_ += static_cast<long long>(n);
     }
 
+    // Reading in place: the read-ahead from the current position (n = 0 while the file has failed, is at
+    // its end or holds no read-ahead), consumed with commitRead(n) before any other call on the file.
+    const unsigned char* readWindow(size_t& n) const {
+        n = eof_ || error_ ? 0 : readEnd_ - readPos_;
+        return buf_.data() + readPos_;
+    }
+    void commitRead(size_t n) {
+        readPos_ += n;
+        offset_ += static_cast<long long>(n);
+    }
+
 private:
     template <class T>
     RWBoolean readArray(T* v, size_t n) {
