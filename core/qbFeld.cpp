@@ -6,6 +6,7 @@
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
+#include <atomic>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -92,6 +93,9 @@ void qbFeldTabelle::schreibe(const qbFormular& form, RWvostream& s) const { schr
 namespace {
 
 thread_local qbLeseBeobachter* beobachter = nullptr;
+// Threads with an observer installed. While there are none, a read does not look at its thread's slot:
+// in a shared library every such look is a call into the dynamic loader.
+std::atomic<int> threadsMitBeobachter{0};
 
 // A value as text, for the observer.
 template <class T>
@@ -184,17 +188,22 @@ void liesZeileAus(const qbFeld& z, qbFormular* form, Strom& s, std::string* text
 qbLeseBeobachter* qbSetzeLeseBeobachter(qbLeseBeobachter* b) {
     qbLeseBeobachter* alt = beobachter;
     beobachter = b;
+    if (!alt && b) threadsMitBeobachter.fetch_add(1, std::memory_order_relaxed);
+    if (alt && !b) threadsMitBeobachter.fetch_sub(1, std::memory_order_relaxed);
     return alt;
 }
 
-qbLeseBeobachter* qbAktuellerLeseBeobachter() { return beobachter; }
+qbLeseBeobachter* qbAktuellerLeseBeobachter() {
+    return threadsMitBeobachter.load(std::memory_order_relaxed) == 0 ? nullptr : beobachter;
+}
 
 void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWFile& f) {
-    if (!beobachter) return liesZeileAus(z, form, f, nullptr);
+    qbLeseBeobachter* b = qbAktuellerLeseBeobachter();
+    if (!b) return liesZeileAus(z, form, f, nullptr);
     const long von = f.CurOffset();
     std::string wert;
     liesZeileAus(z, form, f, &wert);
-    beobachter->feld(form ? z.name : nullptr, z.art, von, f.CurOffset(), wert);
+    b->feld(form ? z.name : nullptr, z.art, von, f.CurOffset(), wert);
 }
 
 void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) {
@@ -209,8 +218,8 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 }
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
-    if (beobachter) {
-        beobachter->layout(klasse_, "aktuelle Tabelle");
+    if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) {
+        b->layout(klasse_, "aktuelle Tabelle");
         for (const qbFeld& z : *this)
             if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
         return;

@@ -476,4 +476,46 @@ TEST_P(JedeKlasse, ManyRecordsAcrossTheBufferBoundaryReadBackWhole) {
     EXPECT_GT(readBytes(tmp.path()).size(), size_t{64 * 1024});
 }
 
+namespace {
+// Counts the values it is shown.
+struct ZaehlenderBeobachter : qbLeseBeobachter {
+    int felder = 0;
+    void layout(const char*, const char*) override {}
+    void feld(const char*, qbArt, long, long, const std::string&) override { ++felder; }
+};
+
+int gelesen(const char* pfad) {
+    RWFile f(pfad, "rb");
+    RWCollectable* p = nullptr;
+    f >> p;
+    std::unique_ptr<RWCollectable> besitz(p);
+    return p ? 1 : 0;
+}
+} // namespace
+
+TEST(Lesebeobachter, SeesTheReadsOfItsOwnThreadOnlyAndNothingOnceRemoved) {
+    auto form = zufallsFormular(qbKlassen[qbIndex_qbFormularL145], 3);
+    TempFile tmp("beobachtet");
+    {
+        RWFile f(tmp.path(), "wb");
+        f << *form;
+    }
+    ZaehlenderBeobachter beobachter;
+    EXPECT_EQ(qbSetzeLeseBeobachter(&beobachter), nullptr);
+    EXPECT_EQ(qbAktuellerLeseBeobachter(), &beobachter);
+    std::thread anderer([&] {
+        EXPECT_EQ(qbAktuellerLeseBeobachter(), nullptr);
+        EXPECT_EQ(gelesen(tmp.path()), 1);
+    });
+    anderer.join();
+    EXPECT_EQ(beobachter.felder, 0) << "another thread's read reached this thread's observer";
+    EXPECT_EQ(gelesen(tmp.path()), 1);
+    const int gesehen = beobachter.felder;
+    EXPECT_GT(gesehen, 40);
+    EXPECT_EQ(qbSetzeLeseBeobachter(nullptr), &beobachter);
+    EXPECT_EQ(qbAktuellerLeseBeobachter(), nullptr);
+    EXPECT_EQ(gelesen(tmp.path()), 1);
+    EXPECT_EQ(beobachter.felder, gesehen);
+}
+
 INSTANTIATE_TEST_SUITE_P(Klassentabelle, JedeKlasse, ::testing::ValuesIn(alleKlassen()), klassenNamen);

@@ -12,6 +12,8 @@
 
 #include "test_util.h"
 
+#include <vector>
+
 using namespace qbtest;
 
 namespace {
@@ -346,4 +348,29 @@ TEST(RWxmsg, RWThrowRaisesTheExceptionAsItsOwnType) {
     } catch (const RWxmsg& e) {
         EXPECT_STREQ(e.why(), "[REF] Bad persistence reference");
     }
+}
+
+TEST(RWReadTable, NumbersEntriesFromOneInOrderBeyondItsOwnArray) {
+    RWReadTable table;
+    std::vector<RWCollectable> objects(40);
+    int other = 0;
+    for (size_t i = 0; i < objects.size(); ++i)
+        i == 20 ? table.append(static_cast<void*>(&other)) : table.append(&objects[i]);
+    EXPECT_EQ(table.entries(), 41u);
+    EXPECT_EQ(table(0), nullptr); // nil
+    EXPECT_TRUE(table.isCollectable(0));
+    for (size_t i = 0; i < objects.size(); ++i) {
+        if (i == 20) {
+            EXPECT_EQ(table(21), &other);
+            EXPECT_FALSE(table.isCollectable(21));
+            EXPECT_EQ(table.collectableAt(21), nullptr);
+            continue;
+        }
+        EXPECT_EQ(table(i + 1), &objects[i]) << i;
+        EXPECT_TRUE(table.isCollectable(i + 1)) << i;
+        EXPECT_EQ(table.collectableAt(i + 1), &objects[i]) << i;
+    }
+    EXPECT_EQ(table(41), nullptr);
+    EXPECT_FALSE(table.isCollectable(41));
+    EXPECT_EQ(table.collectableAt(41), nullptr);
 }

@@ -224,14 +224,7 @@ RWBoolean RWStoreTable::add(const void* object, int& number) {
     return isNew;
 }
 
-RWReadTable::RWReadTable() { entries_.push_back({nullptr, nullptr, true}); }
-
-void RWReadTable::append(RWCollectable* object) { entries_.push_back({object, object, true}); }
-void RWReadTable::append(void* object) { entries_.push_back({object, nullptr, false}); }
-
-RWCollectable* RWReadTable::collectableAt(size_t number) const {
-    return number < entries_.size() ? entries_[number].asCollectable : rwnil;
-}
+RWReadTable::RWReadTable() { add({nullptr, nullptr, true}); }
 
 RWUseStoreTable::RWUseStoreTable() : table_(currentStoreTable), created_(currentStoreTable == nullptr) {
     if (created_) table_ = currentStoreTable = &own_.emplace();

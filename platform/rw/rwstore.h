@@ -30,17 +30,15 @@ class RWReadTable {
 public:
     RWReadTable();
     // Entries are numbered from 0 (nil) in the order they were appended.
-    void append(RWCollectable* object);
-    void append(void* object); // an object that is no collectable, such as a form list
-    size_t entries() const { return entries_.size(); }
+    void append(RWCollectable* object) { add({object, object, true}); }
+    void append(void* object) { add({object, nullptr, false}); } // no collectable, such as a form list
+    size_t entries() const { return n_; }
     // The entry at number, or nil; isCollectable tells which kind it is.
-    void* operator()(size_t number) const {
-        return number < entries_.size() ? entries_[number].object : rwnil;
+    void* operator()(size_t number) const { return number < n_ ? at(number).object : rwnil; }
+    RWBoolean isCollectable(size_t number) const { return number < n_ && at(number).collectable; }
+    RWCollectable* collectableAt(size_t number) const {
+        return number < n_ ? at(number).asCollectable : rwnil;
     }
-    RWBoolean isCollectable(size_t number) const {
-        return number < entries_.size() && entries_[number].collectable;
-    }
-    RWCollectable* collectableAt(size_t number) const;
 
 private:
     struct Entry {
@@ -48,7 +46,20 @@ private:
         RWCollectable* asCollectable;
         bool collectable;
     };
-    std::vector<Entry> entries_;
+    // As with the store table: the first entries in an array of the table's own (a form restored alone
+    // needs two), the rest in a vector.
+    static constexpr size_t kFew = 16;
+    void add(const Entry& e) {
+        if (n_ < kFew)
+            few_[n_] = e;
+        else
+            more_.push_back(e);
+        ++n_;
+    }
+    const Entry& at(size_t number) const { return number < kFew ? few_[number] : more_[number - kFew]; }
+    Entry few_[kFew];
+    size_t n_ = 0;
+    std::vector<Entry> more_;
 };
 
 class RWUseStoreTable {
