@@ -83,7 +83,13 @@ inline void qbSchreibe(qbRohSchreiber& r, const T& v) {
     }
 }
 
-// Writes a record part with schreibe(sink): in place when the file's buffer takes it, else field by field.
+template <class Schreibe>
+[[gnu::noinline, gnu::cold]] void qbSchreibeEinzeln(RWFile& f, Schreibe& schreibe) {
+    schreibe(f);
+}
+
+// Writes a record part with schreibe(sink): in place when the file's buffer takes it, else field by field
+// (out of line, so that it does not come between the hot code).
 template <class Schreibe>
 inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
     qbZaehler zaehler;
@@ -95,7 +101,7 @@ inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
             f.commitWrite(zaehler.bytes);
             return;
         }
-    schreibe(f);
+    qbSchreibeEinzeln(f, schreibe);
 }
 
 // Date and Person never travel on a virtual stream.
@@ -144,7 +150,7 @@ public:
                 if constexpr (Art == qbArt::Text) {
                     const size_t n = rwwire::load<std::uint32_t>(p_);
                     if (static_cast<size_t>(ende_ - p_) - 4 >= n) {
-                        v.std().assign(reinterpret_cast<const char*>(p_ + 4), n);
+                        setzeText(v, p_ + 4, n);
                         p_ += 4 + n;
                         return;
                     }
@@ -164,12 +170,21 @@ public:
                 }
             }
         }
+        ausDerDatei<Art>(v);
+    }
+
+private:
+    // One copy of the string assignment for all fields: inlined, it took most of a form's read code.
+    [[gnu::noinline]] static void setzeText(RWCString& v, const unsigned char* p, size_t n) {
+        v.std().assign(reinterpret_cast<const char*>(p), n);
+    }
+    // Out of line and cold, so that the fields' fast paths lie close together in the code.
+    template <qbArt Art, class T>
+    [[gnu::noinline, gnu::cold]] void ausDerDatei(T& v) {
         f_.commitRead(static_cast<size_t>(p_ - anfang_));
         qbLies<Art>(f_, v);
         hole();
     }
-
-private:
     void hole() {
         size_t n = 0;
         anfang_ = p_ = f_.readWindow(n);
