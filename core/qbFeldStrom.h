@@ -5,10 +5,12 @@
 
 #include "core/qbFeld.h"
 #include "rw/rwfile.h"
+#include "rw/bstream.h"
 #include "rw/vstream.h"
 
 #include <cstdint>
 #include <cstring>
+#include <typeinfo>
 
 // The row's default; an empty default leaves an empty text alone (no assignment on a fresh object).
 template <qbArt Art, class T>
@@ -39,23 +41,34 @@ inline void qbSchreibe(RWFile& f, const T& v) {
         f.Write(v);
 }
 
-// A record part written in place into RWFile's buffer: first counted, then stored through a pointer with
-// no check per field, as a hand-written encoder would. The bytes are those of qbSchreibe(RWFile&, ...).
+// A record part written in one piece: first counted, then stored through a pointer with no check per
+// field, as a hand-written encoder would. Into RWFile's buffer, or into a local buffer handed to a binary
+// virtual stream at once. The bytes are those of qbSchreibe field after field: on the binary stream a
+// text carries its length twice, and a Date or Person is not written.
+enum class qbKodierung { Datei, Binaerstrom };
+
+template <qbKodierung K>
 struct qbZaehler {
     size_t bytes = 0;
     bool amStueck = true; // false once a field has no fixed encoding here (a Person's own record)
 };
+template <qbKodierung K>
 struct qbRohSchreiber {
     unsigned char* p;
 };
 
-template <qbArt Art, class T>
-inline void qbSchreibe(qbZaehler& z, const T& v) {
+template <qbArt Art, qbKodierung K, class T>
+inline void qbSchreibe(qbZaehler<K>& z, const T& v) {
     if constexpr (Art == qbArt::Text)
-        z.bytes += 4 + v.length();
-    else if constexpr (Art == qbArt::Person)
-        z.amStueck = false;
-    else if constexpr (Art == qbArt::Date || Art == qbArt::Int || Art == qbArt::Long)
+        z.bytes += (K == qbKodierung::Datei ? 4 : 8) + v.length();
+    else if constexpr (Art == qbArt::Date || Art == qbArt::Person) {
+        if constexpr (K == qbKodierung::Datei) {
+            if constexpr (Art == qbArt::Date)
+                z.bytes += 4;
+            else
+                z.amStueck = false;
+        }
+    } else if constexpr (Art == qbArt::Int || Art == qbArt::Long)
         z.bytes += 4;
     else if constexpr (Art == qbArt::Double)
         z.bytes += 8;
@@ -63,45 +76,70 @@ inline void qbSchreibe(qbZaehler& z, const T& v) {
         z.bytes += 1;
 }
 
-template <qbArt Art, class T>
-inline void qbSchreibe(qbRohSchreiber& r, const T& v) {
+template <qbArt Art, qbKodierung K, class T>
+inline void qbSchreibe(qbRohSchreiber<K>& r, const T& v) {
     if constexpr (Art == qbArt::Text) {
-        rwwire::store<std::uint32_t>(r.p, static_cast<std::uint32_t>(v.length()));
-        std::memcpy(r.p + 4, v.data(), v.length());
-        r.p += 4 + v.length();
-    } else if constexpr (Art == qbArt::Date) {
-        rwwire::store<std::uint32_t>(r.p, static_cast<std::uint32_t>(v.julian()));
-        r.p += 4;
+        const auto n = static_cast<std::uint32_t>(v.length());
+        rwwire::store<std::uint32_t>(r.p, n);
+        if constexpr (K == qbKodierung::Binaerstrom) { // saveOn's count, then putString's
+            r.p += 4;
+            rwwire::store<std::uint32_t>(r.p, n);
+        }
+        std::memcpy(r.p + 4, v.data(), n);
+        r.p += 4 + n;
+    } else if constexpr (Art == qbArt::Date || Art == qbArt::Person) {
+        if constexpr (K == qbKodierung::Datei && Art == qbArt::Date) {
+            rwwire::store<std::uint32_t>(r.p, static_cast<std::uint32_t>(v.julian()));
+            r.p += 4;
+        }
     } else if constexpr (Art == qbArt::Int || Art == qbArt::Long) { // a long narrowed to 4 bytes
         rwwire::store<std::int32_t>(r.p, static_cast<std::int32_t>(v));
         r.p += 4;
     } else if constexpr (Art == qbArt::Double) {
         rwwire::store<double>(r.p, v);
         r.p += 8;
-    } else if constexpr (Art != qbArt::Person) { // Flag, Char, Bool and Enum: one byte
+    } else { // Flag, Char, Bool and Enum: one byte
         *r.p++ = static_cast<unsigned char>(static_cast<char>(v));
     }
 }
 
-template <class Schreibe>
-[[gnu::noinline, gnu::cold]] void qbSchreibeEinzeln(RWFile& f, Schreibe& schreibe) {
-    schreibe(f);
+// Field by field, out of line, so that it does not come between the hot code.
+template <class Strom, class Schreibe>
+[[gnu::noinline, gnu::cold]] void qbSchreibeEinzeln(Strom& s, Schreibe& schreibe) {
+    schreibe(s);
 }
 
-// Writes a record part with schreibe(sink): in place when the file's buffer takes it, else field by field
-// (out of line, so that it does not come between the hot code).
+// Writes a record part with schreibe(sink): in place when the file's buffer takes it.
 template <class Schreibe>
 inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
-    qbZaehler zaehler;
+    qbZaehler<qbKodierung::Datei> zaehler;
     schreibe(zaehler);
     if (zaehler.amStueck)
         if (unsigned char* p = f.reserveWrite(zaehler.bytes)) {
-            qbRohSchreiber roh{p};
+            qbRohSchreiber<qbKodierung::Datei> roh{p};
             schreibe(roh);
             f.commitWrite(zaehler.bytes);
             return;
         }
     qbSchreibeEinzeln(f, schreibe);
+}
+
+// On a binary stream (exactly RWbostream, whose bytes are fixed) a part of up to 2 kB goes to the
+// streambuf in one call instead of two or three per field; on any other stream, field by field.
+template <class Schreibe>
+inline void qbSchreibeAmStueck(RWvostream& s, Schreibe&& schreibe) {
+    if (typeid(s) == typeid(RWbostream)) {
+        qbZaehler<qbKodierung::Binaerstrom> zaehler;
+        schreibe(zaehler);
+        unsigned char puffer[2048];
+        if (zaehler.bytes <= sizeof puffer) {
+            qbRohSchreiber<qbKodierung::Binaerstrom> roh{puffer};
+            schreibe(roh);
+            s.put(puffer, zaehler.bytes);
+            return;
+        }
+    }
+    qbSchreibeEinzeln(s, schreibe);
 }
 
 // Date and Person never travel on a virtual stream.

@@ -42,7 +42,7 @@
     template <class Strom>                                                                                   \
     void Klasse::schreibeEigene(Strom& strom) const {                                                        \
         auto schreibe = [this](auto& s) { Felder(QB_FELD_SCHREIBEN) };                                       \
-        if constexpr (std::is_same_v<Strom, RWFile>)                                                         \
+        if constexpr (std::is_same_v<Strom, RWFile> || std::is_same_v<Strom, RWvostream>)                    \
             qbSchreibeAmStueck(strom, schreibe);                                                             \
         else                                                                                                 \
             schreibe(strom);                                                                                 \

@@ -15,6 +15,7 @@
 #include <memory>
 #include <random>
 #include <set>
+#include <sstream>
 #include <thread>
 
 using namespace qbtest;
@@ -448,6 +449,28 @@ TEST_P(JedeKlasse, InPlaceWriteAndTableWriteOfTheCurrentLayoutGiveTheSameBytes) 
             (*t)->schreibe(*form, f);
     }
     EXPECT_EQ(hex(readBytes(amStueck.path())), hex(readBytes(perTabelle.path())));
+}
+
+// On the binary stream a record part goes to the streambuf in one piece (up to 2 kB, field by field
+// beyond); the table writes it field by field. Same bytes either way.
+TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) {
+    const qbKlasse& k = *GetParam();
+    for (size_t langerText : {size_t{0}, size_t{3000}}) {
+        auto form = zufallsFormular(k, 22);
+        if (langerText) form->RefPersonenKennung(RWCString(std::string(langerText, 'x')));
+        std::ostringstream amStueck, perTabelle;
+        {
+            RWbostream s(amStueck);
+            form->saveGuts(s);
+        }
+        {
+            RWbostream s(perTabelle);
+            auto tabellen = kette(k);
+            for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
+                (*t)->schreibe(*form, s);
+        }
+        EXPECT_EQ(hex(bytesOf(amStueck.str())), hex(bytesOf(perTabelle.str()))) << langerText;
+    }
 }
 
 // Records that straddle the end of the file's buffer are written field by field after a flush, or in

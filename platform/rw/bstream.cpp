@@ -92,8 +92,11 @@ void RWbostream::write(const void* p, size_t n) {
         return *this;                                                                                        \
     }                                                                                                        \
     RWvostream& RWbostream::put(const T* p, size_t n) {                                                      \
-        for (size_t i = 0; i < n; ++i)                                                                       \
-            *this << p[i];                                                                                   \
+        if constexpr (sizeof(Wire<T>::type) == 1) /* bytes as they are, in one piece */                      \
+            write(p, n);                                                                                     \
+        else                                                                                                 \
+            for (size_t i = 0; i < n; ++i)                                                                   \
+                *this << p[i];                                                                               \
         return *this;                                                                                        \
     }
 RW_VSTREAM_SCALARS(X)
