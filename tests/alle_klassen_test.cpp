@@ -397,16 +397,23 @@ TEST_P(JedeKlasse, NewObjectAfterDeletedFilledFormsOfEveryClassStartsAsNew) {
     }
 }
 
-TEST(Formularspeicher, BlockOfADeletedFormServesTheNextFormOfTheSameSize) {
+TEST(Formularspeicher, BlocksOfDeletedFormsServeTheNextFormsOfTheSameSize) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "under the address sanitizer every form is freed at once";
 #else
     for (const qbKlasse& k : qbKlassen) {
-        auto erste = erzeuge(k);
-        const void* block = erste.get();
-        erste.reset();
-        auto zweite = erzeuge(k);
-        EXPECT_EQ(zweite.get(), block) << k.klassenName;
+        std::vector<std::unique_ptr<qbFormular>> formen;
+        for (int i = 0; i < 40; ++i) // more than wait in the cache: afterwards none of this size waits
+            formen.push_back(erzeuge(k));
+        std::set<const void*> geloescht;
+        for (int i = 0; i < 10; ++i) {
+            geloescht.insert(formen.back().get());
+            formen.pop_back();
+        }
+        for (int i = 0; i < 10; ++i) {
+            formen.push_back(erzeuge(k));
+            EXPECT_EQ(geloescht.count(formen.back().get()), 1u) << k.klassenName << " form " << i;
+        }
     }
 #endif
 }
