@@ -109,9 +109,11 @@ template <class Strom, class Schreibe>
     schreibe(s);
 }
 
-// Writes a record part with schreibe(sink): in place when the file's buffer takes it.
+// Writes a record part with schreibe(sink): in place when the file's buffer takes it. Writing in place
+// is an extension of this platform's RWFile; against an RWFile without it, field by field.
 template <class Schreibe>
 inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
+#if defined(RWFILE_IN_PLACE)
     qbZaehler<qbKodierung::Datei> zaehler;
     schreibe(zaehler);
     if (zaehler.amStueck)
@@ -121,6 +123,7 @@ inline void qbSchreibeAmStueck(RWFile& f, Schreibe&& schreibe) {
             f.commitWrite(zaehler.bytes);
             return;
         }
+#endif
     qbSchreibeEinzeln(f, schreibe);
 }
 
@@ -167,6 +170,7 @@ inline void qbLies(RWFile& f, T& v) {
         f.Read(v);
 }
 
+#if defined(RWFILE_IN_PLACE)
 // A record part read in place from RWFile's read-ahead, through a local cursor with one bounds check per
 // field, as a hand-written decoder would. A field the read-ahead does not hold whole (and every Date and
 // Person) is read from the file as usual, after the cursor has handed back what it consumed: the result
@@ -236,6 +240,18 @@ private:
 template <qbArt Art, class T>
 inline void qbLies(qbLesefenster& fenster, T& v) {
     fenster.lies<Art>(v);
+}
+#endif
+
+// Reads a record part with lies(source): in place from the read-ahead where RWFile offers it.
+template <class Lies>
+inline void qbLiesAmStueck(RWFile& f, Lies&& lies) {
+#if defined(RWFILE_IN_PLACE)
+    qbLesefenster fenster(f);
+    lies(fenster);
+#else
+    lies(f);
+#endif
 }
 
 // A failed stream reads nothing into the form.

@@ -58,8 +58,7 @@
         auto lies = [&](auto& s) { Felder(QB_FELD_LESEN) };                                                  \
         if constexpr (std::is_same_v<Strom, RWFile>) {                                                       \
             if (qbAktuellerLeseBeobachter()) return felder().lies(*this, strom);                             \
-            qbLesefenster fenster(strom);                                                                    \
-            lies(fenster);                                                                                   \
+            qbLiesAmStueck(strom, lies);                                                                     \
         } else                                                                                               \
             lies(strom);                                                                                     \
     }                                                                                                        \

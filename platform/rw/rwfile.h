@@ -20,6 +20,9 @@
 #include <string>
 #include <vector>
 
+// This RWFile offers writing and reading in place (reserveWrite, commitWrite, readWindow, commitRead).
+#define RWFILE_IN_PLACE 1
+
 class RWFile {
 public:
     // mode as for fopen; with no mode, open an existing file for update or else create it.
@@ -107,6 +110,7 @@ public:
     RWBoolean Write(const float* v, size_t n) { return writeArray(v, n); }
     RWBoolean Write(const double* v, size_t n) { return writeArray(v, n); }
 
+    // Extensions of this platform (RWFILE_IN_PLACE tells they are there), for encoders that work in place.
     // Writing in place, for a caller that knows how many bytes a record part takes: room for n bytes in
     // the write buffer, or null when the buffer cannot take them (then write as usual). The caller fills
     // the n bytes and hands them over with commitWrite(n), with no other call on the file in between.
