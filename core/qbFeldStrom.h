@@ -1,6 +1,6 @@
-// One field on a stream or set to its default, chosen at compile time by its type: the current layout and
-// the defaults of a form, generated from its field list, go through these without consulting the table
-// row by row.
+// One field on a stream or set to its default, chosen at compile time by its type, and whole record parts
+// encoded in place: the current layout and the defaults of a form, generated from its field list, go
+// through these without consulting the table row by row.
 #pragma once
 
 #include "core/qbFeld.h"
@@ -39,6 +39,45 @@ inline void qbSchreibe(RWFile& f, const T& v) {
         f.Write(static_cast<char>(v)); // one char
     else
         f.Write(v);
+}
+
+// Date and Person never travel on a virtual stream.
+template <qbArt Art, class T>
+inline void qbSchreibe(RWvostream& s, const T& v) {
+    if constexpr (Art == qbArt::Text)
+        v.saveOn(s);
+    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum)
+        s << static_cast<char>(v);
+    else if constexpr (Art != qbArt::Date && Art != qbArt::Person)
+        s << v;
+}
+
+// A Bool is true only for the byte 1; an Enum comes back sign-extended from its char.
+template <qbArt Art, class T>
+inline void qbLies(RWFile& f, T& v) {
+    if constexpr (Art == qbArt::Text || Art == qbArt::Date)
+        v.restoreFrom(f);
+    else if constexpr (Art == qbArt::Person)
+        f >> v;
+    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum) {
+        char c;
+        if (f.Read(c)) v = Art == qbArt::Bool ? c == 1 : static_cast<signed char>(c);
+    } else
+        f.Read(v);
+}
+
+// A failed stream reads nothing into the form.
+template <qbArt Art, class T>
+inline void qbLies(RWvistream& s, T& v) {
+    if (!s.good()) return;
+    if constexpr (Art == qbArt::Text)
+        v.restoreFrom(s);
+    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum) {
+        char c = 0;
+        s >> c;
+        if (s.good()) v = Art == qbArt::Bool ? c == 1 : static_cast<signed char>(c);
+    } else if constexpr (Art != qbArt::Date && Art != qbArt::Person)
+        s >> v;
 }
 
 // A record part written in one piece: first counted, then stored through a pointer with no check per
@@ -145,31 +184,6 @@ inline void qbSchreibeAmStueck(RWvostream& s, Schreibe&& schreibe) {
     qbSchreibeEinzeln(s, schreibe);
 }
 
-// Date and Person never travel on a virtual stream.
-template <qbArt Art, class T>
-inline void qbSchreibe(RWvostream& s, const T& v) {
-    if constexpr (Art == qbArt::Text)
-        v.saveOn(s);
-    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum)
-        s << static_cast<char>(v);
-    else if constexpr (Art != qbArt::Date && Art != qbArt::Person)
-        s << v;
-}
-
-// A Bool is true only for the byte 1; an Enum comes back sign-extended from its char.
-template <qbArt Art, class T>
-inline void qbLies(RWFile& f, T& v) {
-    if constexpr (Art == qbArt::Text || Art == qbArt::Date)
-        v.restoreFrom(f);
-    else if constexpr (Art == qbArt::Person)
-        f >> v;
-    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum) {
-        char c;
-        if (f.Read(c)) v = Art == qbArt::Bool ? c == 1 : static_cast<signed char>(c);
-    } else
-        f.Read(v);
-}
-
 #if defined(RWFILE_IN_PLACE)
 // A record part read in place from RWFile's read-ahead, through a local cursor with one bounds check per
 // field, as a hand-written decoder would. A field the read-ahead does not hold whole (and every Date and
@@ -252,18 +266,4 @@ inline void qbLiesAmStueck(RWFile& f, Lies&& lies) {
 #else
     lies(f);
 #endif
-}
-
-// A failed stream reads nothing into the form.
-template <qbArt Art, class T>
-inline void qbLies(RWvistream& s, T& v) {
-    if (!s.good()) return;
-    if constexpr (Art == qbArt::Text)
-        v.restoreFrom(s);
-    else if constexpr (Art == qbArt::Bool || Art == qbArt::Enum) {
-        char c = 0;
-        s >> c;
-        if (s.good()) v = Art == qbArt::Bool ? c == 1 : static_cast<signed char>(c);
-    } else if constexpr (Art != qbArt::Date && Art != qbArt::Person)
-        s >> v;
 }
