@@ -220,6 +220,8 @@ def main():
     p.add_argument("--commit", default="")
     p.add_argument("--command", default="scripts/bench.sh")
     p.add_argument("--set-before", metavar="LABEL", help="keep this run's figures as the 'before' figures")
+    p.add_argument("--repetitions", default="?", help="repetitions of each benchmark")
+    p.add_argument("--min-time", default="?", help="least seconds of each repetition")
     a = p.parse_args()
 
     figures, ctx = load(a.json)
@@ -250,8 +252,10 @@ def main():
            f"- Compared with: {a.versions or '?'}",
            f"- Commit: {a.commit or '?'}",
            "",
-           "CPU time per record of the least disturbed of 5 repetitions (Google Benchmark's `min` statistic added "
-           "by the program), each repetition at least 0.2 s. MB/s counts each codec's own bytes (10⁶ bytes). "
+           f"CPU time per record of the least disturbed of {a.repetitions} repetitions (Google Benchmark's `min` "
+           f"statistic added by the program), each repetition at least {a.min_time} s, the repetitions of all "
+           "benchmarks interleaved at random so that a slow spell of the shared machine does not fall on one codec "
+           "alone. MB/s counts each codec's own bytes (10⁶ bytes). "
            "Before any timing the program reads every codec's output back and compares it with the original, and "
            "the hand codec's bytes with the file RWFile wrote; it stops if any differ.",
            ""]
