@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <charconv>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace bench {
@@ -38,7 +39,7 @@ std::string formulareUeberBaum() {
         const qbFormular& form = *liste.liefereFormularAnPos(static_cast<int>(i));
         CQBXMLdata knoten("");
         qbKlasseZuId(form.isA())->zuXml(form, knoten);
-        wurzel.List(knoten);
+        wurzel.List(std::move(knoten)); // the node is not needed afterwards
     }
     return wurzel.asXML().std();
 }

@@ -11,6 +11,9 @@
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
+#include <type_traits>
+#include <utility>
+
 // ---- In the form's .cpp
 
 // One row of a field list as code: written, or read when the stored version's layout holds it.
@@ -131,7 +134,7 @@
         knoten.clear(klassenName());                                                                         \
         CQBXMLdata kopf("");                                                                                 \
         qbFormular::XMLgetDat(kopf);                                                                         \
-        knoten.add(kopf);                                                                                    \
+        knoten.add(std::move(kopf));                                                                         \
         felder().xmlSchreibe(*this, knoten);                                                                 \
     }                                                                                                        \
     void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                             \

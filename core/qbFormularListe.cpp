@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -240,17 +241,17 @@ RWTValSlist<RWCString> qbFormularListe::RefAlleDruckstueckNr() const {
 // ---- XML
 
 void qbFormularListe::XMLgetDat(CQBXMLdata& knoten) {
-    CQBXMLdata element("");
     knoten.clear("qbFormularListe");
     knoten.List(CQBXMLdata("Version", Version));
     CQBXMLdata sammlung("RWDlistCollectables");
     sammlung.Attribute("Liste");
     // XMLgetDat is not virtual: every element gets the header of qbFormular::XMLgetDat only.
     for (unsigned pos = 0; pos < AnzahlFormulare(); ++pos) {
+        CQBXMLdata element("");
         liefereFormularAnPos(static_cast<int>(pos))->qbFormular::XMLgetDat(element);
-        sammlung.List(element);
+        sammlung.List(std::move(element));
     }
-    knoten.List(sammlung);
+    knoten.List(std::move(sammlung));
 }
 
 void qbFormularListe::XMLputDat(CQBXMLdata& knoten) {

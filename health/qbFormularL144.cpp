@@ -18,7 +18,7 @@ void qbFormularL144::XMLgetDat(CQBXMLdata& knoten) const {
     knoten.clear(klassenName());
     CQBXMLdata gemeinsam("");
     qbFormularAllgGesu::XMLgetDat(gemeinsam);
-    knoten.add(gemeinsam);
+    knoten.add(std::move(gemeinsam));
     felder().xmlSchreibe(*this, knoten);
 }
 

@@ -125,3 +125,17 @@ TEST(Cp1252, EmptyTextConvertsToEmptyText) {
     EXPECT_TRUE(utf8ToCp1252("", out));
     EXPECT_EQ(out, "");
 }
+
+TEST(Cp1252, AsciiRunsBetweenOtherCharactersConvertWhole) {
+    EXPECT_EQ(cp1252ToUtf8(std::string_view("\xE4")), "\xC3\xA4");
+    EXPECT_EQ(cp1252ToUtf8(std::string_view("Stra\xDF"
+                                            "e 12, \x80 5,00")),
+              "Stra\xC3\x9F"
+              "e 12, \xE2\x82\xAC 5,00");
+    EXPECT_EQ(cp1252ToUtf8(std::string_view("\x80\x80"
+                                            "abc\xFF")),
+              "\xE2\x82\xAC\xE2\x82\xAC"
+              "abc\xC3\xBF");
+    const std::string lang(1000, 'x');
+    EXPECT_EQ(cp1252ToUtf8(std::string_view(lang + "\xFC" + lang)), lang + "\xC3\xBC" + lang);
+}

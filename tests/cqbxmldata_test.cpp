@@ -13,6 +13,7 @@
 #include <random>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -323,6 +324,59 @@ TEST(CQBXMLdata, AddOfItselfTakesInACopyOfItsFormerSelf) {
     ASSERT_EQ(node.entryCount(), 3u);
     ASSERT_EQ(node.entryAt(2)->entryCount(), 2u);
     EXPECT_EQ(node.entryAt(2)->entryAt(1)->Name(), "B");
+    EXPECT_EQ(node.List()->entries(), 3u);
+}
+
+TEST(CQBXMLdata, ListAndAddOfAMovedNodeGiveTheTreeOfACopyAndLeaveItEmpty) {
+    auto beispiel = [] {
+        CQBXMLdata n("Sub", RWCString("Wert \xE4"));
+        n.Typ("t");
+        n.Attribute("a");
+        n.List(CQBXMLdata("A", 1)).List(CQBXMLdata("B", 2.5));
+        return n;
+    };
+    CQBXMLdata kopiert("n"), bewegt("n");
+    const CQBXMLdata eins = beispiel(), zwei = beispiel();
+    kopiert.List(eins).add(zwei);
+    CQBXMLdata quelleList = beispiel(), quelleAdd = beispiel();
+    CQBXMLdata& zurueck = bewegt.List(std::move(quelleList));
+    EXPECT_EQ(&zurueck, &bewegt);
+    bewegt.add(std::move(quelleAdd));
+    EXPECT_TRUE(bewegt.sameTree(kopiert));
+    EXPECT_FALSE(bewegt.entryAt(0)->isAdded());
+    EXPECT_TRUE(bewegt.entryAt(1)->isAdded());
+    int a = 0;
+    EXPECT_TRUE(bewegt.Listvalue("A", a)); // found in the entry taken in
+    EXPECT_EQ(a, 1);
+    EXPECT_EQ(bewegt.List()->entries(), 2u);
+    // the moved nodes are empty and usable
+    EXPECT_EQ(quelleList.entryCount(), 0u);
+    EXPECT_EQ(quelleAdd.entryCount(), 0u);
+    quelleList.clear("wieder");
+    quelleList.List(CQBXMLdata("C", 3));
+    EXPECT_EQ(quelleList.entryCount(), 1u);
+}
+
+TEST(CQBXMLdata, MovingANodeIntoItselfTakesInACopyOfItsFormerSelf) {
+    CQBXMLdata node("n");
+    node.List(CQBXMLdata("A", 1)).List(CQBXMLdata("B", 2));
+    node.add(std::move(node));
+    ASSERT_EQ(node.entryCount(), 3u);
+    EXPECT_TRUE(node.entryAt(2)->isAdded());
+    EXPECT_EQ(node.entryAt(2)->entryCount(), 2u);
+    node.List(std::move(node));
+    ASSERT_EQ(node.entryCount(), 4u);
+    EXPECT_EQ(node.entryAt(3)->entryCount(), 3u);
+}
+
+TEST(CQBXMLdata, ListTableFollowsEntriesMovedIn) {
+    CQBXMLdata node("n");
+    node.List(CQBXMLdata("A", 1));
+    ASSERT_EQ(node.List()->entries(), 1u);
+    CQBXMLdata b("B", 2);
+    node.List(std::move(b));
+    CQBXMLdata c("C", 3);
+    node.add(std::move(c));
     EXPECT_EQ(node.List()->entries(), 3u);
 }
 

@@ -103,6 +103,19 @@ void CQBXMLdata::add(const CQBXMLdata& other) {
     append(std::move(copy));
 }
 
+CQBXMLdata& CQBXMLdata::List(CQBXMLdata&& entry) {
+    if (&entry == this) return List(static_cast<const CQBXMLdata&>(entry)); // a node into itself: a copy
+    append(std::make_unique<CQBXMLdata>(std::move(entry)));
+    return *this;
+}
+
+void CQBXMLdata::add(CQBXMLdata&& other) {
+    if (&other == this) return add(static_cast<const CQBXMLdata&>(other));
+    auto taken = std::make_unique<CQBXMLdata>(std::move(other));
+    taken->added_ = true;
+    append(std::move(taken));
+}
+
 RWTPtrHashTable<CQBXMLdata>* CQBXMLdata::List() {
     if (!table_) {
         table_ = std::make_unique<RWTPtrHashTable<CQBXMLdata>>(&CQBXMLdata::hashName);
@@ -343,10 +356,18 @@ bool parseDouble(std::string_view text, double& out) {
     return true;
 }
 
+bool isAscii(const RWCString& text) {
+    for (char c : text.std())
+        if (static_cast<unsigned char>(c) >= 0x80) return false;
+    return true;
+}
+
 void putText(pugi::xml_node element, const char* key, const RWCString& text, bool evenIfEmpty) {
     if (text.isNull() && !evenIfEmpty) return;
     if (needsHex(text))
         element.append_attribute((std::string(key) + "-hex").c_str()).set_value(toHex(text.std()).c_str());
+    else if (isAscii(text)) // the same bytes in UTF-8: no converted copy
+        element.append_attribute(key).set_value(text.data());
     else
         element.append_attribute(key).set_value(cp1252ToUtf8(text).c_str());
 }

@@ -87,6 +87,10 @@ public:
     // Appends a copy of other as one entry taken in, whose keys Listvalue on this node finds.
     void add(CQBXMLdata& other);
     void add(const CQBXMLdata& other);
+    // The same with the entry's content moved instead of copied (an addition of this platform): a tree
+    // built from temporaries and locals is not copied node by node. The moved node is left empty.
+    CQBXMLdata& List(CQBXMLdata&& entry);
+    void add(CQBXMLdata&& other);
     // Whether this node was taken into its parent by add().
     bool isAdded() const { return added_; }
 

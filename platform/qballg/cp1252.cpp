@@ -63,8 +63,16 @@ int cp1252FromCodePoint(char32_t codePoint) {
 std::string cp1252ToUtf8(std::string_view cp1252) {
     std::string out;
     out.reserve(cp1252.size());
-    for (char c : cp1252)
-        appendUtf8(out, cp1252ToCodePoint(static_cast<unsigned char>(c)));
+    // Runs of ASCII, nearly all of a form's text, are the same bytes in UTF-8: copied in one go.
+    for (size_t i = 0; i < cp1252.size();) {
+        size_t ascii = i;
+        while (ascii < cp1252.size() && static_cast<unsigned char>(cp1252[ascii]) < 0x80)
+            ++ascii;
+        out.append(cp1252.data() + i, ascii - i);
+        if (ascii < cp1252.size())
+            appendUtf8(out, cp1252ToCodePoint(static_cast<unsigned char>(cp1252[ascii++])));
+        i = ascii;
+    }
     return out;
 }
 
