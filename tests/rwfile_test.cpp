@@ -244,7 +244,7 @@ TEST(RWFile, ReservedRoomWrittenInPlaceReachesTheFileAtTheOffsetAfterCommit) {
 
 TEST(RWFile, ReservedRoomAtTheBufferEndFlushesFirstSoNoByteIsLost) {
     TempFile tmp("inplace-full");
-    const size_t stueck = 1000, anzahl = 200; // 200 kB through a buffer of 32 kB
+    const size_t stueck = 1000, anzahl = 200; // 200 kB through a buffer of 64 kB
     {
         RWFile f(tmp.path(), "wb");
         for (size_t i = 0; i < anzahl; ++i) {
