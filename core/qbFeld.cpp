@@ -244,11 +244,11 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
         case qbArt::Flag:
         case qbArt::Char:
         case qbArt::Bool:
+        case qbArt::Enum: // one Char on the stream
             summe += 1;
             break;
         case qbArt::Int:
         case qbArt::Long:
-        case qbArt::Enum:
         case qbArt::Date:
             summe += 4;
             break;

@@ -174,7 +174,7 @@ public:
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWvistream& s);
 
     // Bytes the rows take on RWFile: 4 per Text plus its characters (unless the row leaves them out),
-    // 1 per Flag, Char and Bool, 4 per Int, Long, Enum and Date, 8 per Double.
+    // 1 per Flag, Char, Bool and Enum, 4 per Int, Long and Date, 8 per Double.
     RWspace groesse(const qbFormular& form) const;
 
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;

@@ -458,6 +458,47 @@ TEST(Formular, LoescheIsVirtual) {
     EXPECT_EQ(f.RefPersonenKennung(), "VP1");
 }
 
+// ==== The size rule of a table
+
+namespace {
+// A form with a field of every fixed-width type, for a table of its own.
+struct JederTyp : qbFormular {
+    RWCString text = "abc";
+    unsigned char flag = 1;
+    char zeichen = 'z';
+    bool wahrheit = true;
+    int ganz = -5;
+    long lang = 7;
+    double zahl = 2.5;
+    RWDate datum = RWDate::fromJulian(2450000);
+    int aufzaehlung = -3;
+};
+} // namespace
+
+TEST(FeldTabelle, SizeOfEveryFixedWidthTypeIsTheBytesTheTableWrites) {
+    using F = JederTyp;
+    static constexpr qbFeld zeilen[] = {
+        qbFeld::Text(&F::text, "text"),
+        qbFeld::Flag(&F::flag, "flag"),
+        qbFeld::Char(&F::zeichen, "zeichen"),
+        qbFeld::Bool(&F::wahrheit, "wahrheit"),
+        qbFeld::Int(&F::ganz, "ganz"),
+        qbFeld::Long(&F::lang, "lang"),
+        qbFeld::Double(&F::zahl, "zahl"),
+        qbFeld::Date(&F::datum, "datum"),
+        qbFeld::Enum(&F::aufzaehlung, "aufzaehlung"),
+    };
+    static constexpr qbFeldTabelle tabelle("JederTyp", zeilen);
+    const JederTyp form;
+    TempFile tmp("jeder-typ");
+    {
+        RWFile f(tmp.path(), "wb");
+        tabelle.schreibe(form, f);
+    }
+    EXPECT_EQ(tabelle.groesse(form), 4 + 3 + 1 + 1 + 1 + 4 + 4 + 8 + 4 + 1u);
+    EXPECT_EQ(tabelle.groesse(form), readBytes(tmp.path()).size());
+}
+
 // ==== The version key
 
 TEST(FormularVersion, KeyIsYearTimesHundredPlusMonth) {
