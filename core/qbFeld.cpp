@@ -237,27 +237,8 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
-        switch (z.art) {
-        case qbArt::Text:
-            summe += 4 + (z.laengeInGroesse ? (form.*z.mitglied.text).length() : 0);
-            break;
-        case qbArt::Flag:
-        case qbArt::Char:
-        case qbArt::Bool:
-        case qbArt::Enum: // one Char on the stream
-            summe += 1;
-            break;
-        case qbArt::Int:
-        case qbArt::Long:
-        case qbArt::Date:
-            summe += 4;
-            break;
-        case qbArt::Double:
-            summe += 8;
-            break;
-        case qbArt::Person:
-            break; // no class with a person counts its size
-        }
+        summe += qbFesteBreite(z.art); // no class with a person counts its size
+        if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
     }
     return summe;
 }

@@ -15,6 +15,8 @@
 #include "rw/rwdate.h"
 #include "qballg/qbPerson.h"
 
+#include <cstddef>
+
 class CQBXMLdata;
 class RWFile;
 class RWvistream;
@@ -34,6 +36,28 @@ class qbFormular;
 //   Enum    int            an enumeration held as int, stored as its low byte through a Char and read
 //                          back sign-extended
 enum class qbArt : unsigned char { Text, Flag, Char, Bool, Int, Long, Double, Date, Person, Enum };
+
+// The fixed bytes of a value on RWFile: a Text's length (its characters come on top); 0 for a Person, whose
+// record has no fixed size.
+constexpr size_t qbFesteBreite(qbArt art) {
+    switch (art) {
+    case qbArt::Flag:
+    case qbArt::Char:
+    case qbArt::Bool:
+    case qbArt::Enum:
+        return 1;
+    case qbArt::Text:
+    case qbArt::Int:
+    case qbArt::Long:
+    case qbArt::Date:
+        return 4;
+    case qbArt::Double:
+        return 8;
+    case qbArt::Person:
+        break;
+    }
+    return 0;
+}
 
 struct qbFeld {
     qbArt art;

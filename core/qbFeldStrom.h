@@ -98,21 +98,14 @@ struct qbRohSchreiber {
 
 template <qbArt Art, qbKodierung K, class T>
 inline void qbSchreibe(qbZaehler<K>& z, const T& v) {
-    if constexpr (Art == qbArt::Text)
+    if constexpr (K == qbKodierung::Binaerstrom && (Art == qbArt::Date || Art == qbArt::Person))
+        return; // neither travels on a virtual stream
+    else if constexpr (Art == qbArt::Person)
+        z.amStueck = false; // its own record, of no fixed size
+    else if constexpr (Art == qbArt::Text)
         z.bytes += (K == qbKodierung::Datei ? 4 : 8) + v.length();
-    else if constexpr (Art == qbArt::Date || Art == qbArt::Person) {
-        if constexpr (K == qbKodierung::Datei) {
-            if constexpr (Art == qbArt::Date)
-                z.bytes += 4;
-            else
-                z.amStueck = false;
-        }
-    } else if constexpr (Art == qbArt::Int || Art == qbArt::Long)
-        z.bytes += 4;
-    else if constexpr (Art == qbArt::Double)
-        z.bytes += 8;
     else
-        z.bytes += 1;
+        z.bytes += qbFesteBreite(Art);
 }
 
 template <qbArt Art, qbKodierung K, class T>
@@ -198,9 +191,7 @@ public:
 
     template <qbArt Art, class T>
     void lies(T& v) {
-        constexpr size_t breite = Art == qbArt::Text || Art == qbArt::Int || Art == qbArt::Long ? 4
-                                  : Art == qbArt::Double                                        ? 8
-                                                                                                : 1;
+        constexpr size_t breite = qbFesteBreite(Art);
         if constexpr (Art != qbArt::Date && Art != qbArt::Person) {
             if (static_cast<size_t>(ende_ - p_) >= breite) {
                 if constexpr (Art == qbArt::Text) {

@@ -20,13 +20,13 @@
 #define QB_FELD_SCHREIBEN(Typ, Name, ...) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);
 #define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
     {                                                                                                        \
-        static constexpr qbFeld zeile = qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__;            \
+        static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
         if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))        \
             qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                          \
     }
 #define QB_FELD_STANDARD(Typ, Name, ...)                                                                     \
     {                                                                                                        \
-        static constexpr qbFeld zeile = qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__;            \
+        static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
         qbSetzeStandard<qbArt::QB_ZEILE_##Typ>(Name, zeile);                                                 \
     }
 

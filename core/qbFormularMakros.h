@@ -82,7 +82,9 @@
 // Expansions of one row of a field list.
 #define QB_FELD_ZUGRIFF(Typ, Name, ...) QB_ZUGRIFF_##Typ(Name)
 #define QB_FELD_MITGLIED(Typ, Name, ...) QB_MITGLIED_##Typ Name;
-#define QB_FELD_ZEILE(Typ, Name, ...) qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__,
+// A row as an expression (Selbst names the declaring class where it is used).
+#define QB_FELD_ZEILE_AUSDRUCK(Typ, Name, ...) qbFeld::QB_ZEILE_##Typ(&Selbst::Name, #Name) __VA_ARGS__
+#define QB_FELD_ZEILE(Typ, Name, ...) QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__),
 
 // ---- In the class body
 
