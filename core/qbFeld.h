@@ -82,6 +82,15 @@ struct qbFeld {
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
 
+    // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
+    // evaluates a member template in a constant expression only when its definition comes first.
+    template <class Aenderung>
+    constexpr qbFeld mit(Aenderung aendere) const {
+        qbFeld f = *this;
+        aendere(f);
+        return f;
+    }
+
     // Modifiers of a row: each gives a copy of the row with one property changed.
     constexpr qbFeld xml(const char* key) const {
         return mit([&](qbFeld& f) { f.xmlSchreibKey = f.xmlLeseKey = key; });
@@ -160,12 +169,6 @@ struct qbFeld {
     }
 
 private:
-    template <class Aenderung>
-    constexpr qbFeld mit(Aenderung aendere) const {
-        qbFeld f = *this;
-        aendere(f);
-        return f;
-    }
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
         return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
     }

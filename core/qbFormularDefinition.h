@@ -8,6 +8,7 @@
 #include "core/qbKlassen.h"
 #include "core/qbLeseBeobachter.h"
 #include "qballg/CQBXMLdata.h"
+#include "qballg/cp1252_literal.h" // a form's text with characters outside ASCII: "..."_cp1252
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 

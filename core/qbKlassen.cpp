@@ -1,6 +1,7 @@
 #include "core/qbKlassen.h"
 
 #include "core/qbFormular.h"
+#include "qballg/cp1252_literal.h"
 #include "rw/factory.h"
 
 #include <cstring>

@@ -99,7 +99,7 @@ RWCString qbFormularAllgGesu::DauerPhrase(int dauer, Numerus numerus) {
         zeitraum = "6 Monate";
         break;
     case 28:
-        zeitraum = "länger als 6 Monate";
+        zeitraum = "länger als 6 Monate"_cp1252;
         break;
     default:
         return einzahl ? "dauert noch an; " : "dauern noch an; "; // -1, 0 and every other code

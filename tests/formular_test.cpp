@@ -344,7 +344,9 @@ TEST(Formular, CopyGivesAnEqualIndependentObjectOfTheSameClassForEveryBuiltClass
         std::unique_ptr<RWCollectable> kopie(original->copy());
         ASSERT_NE(kopie, nullptr);
         EXPECT_EQ(kopie->isA(), original->isA());
-        EXPECT_EQ(typeid(*kopie), typeid(*original));
+        const RWCollectable& kopieRef = *kopie;
+        const qbFormular& originalRef = *original;
+        EXPECT_EQ(typeid(kopieRef), typeid(originalRef));
         EXPECT_TRUE(original->isEqual(kopie.get()));
         EXPECT_EQ(satz(static_cast<qbFormular&>(*kopie)), satz(*original));
         original->RefPersonenKennung("VN");
@@ -375,7 +377,9 @@ TEST(Formular, NewSpeciesGivesADefaultObjectOfTheClassForEveryBuiltClass) {
         std::unique_ptr<RWCollectable> neu(original->newSpecies());
         ASSERT_NE(neu, nullptr);
         EXPECT_EQ(neu->isA(), original->isA());
-        EXPECT_EQ(typeid(*neu), typeid(*original));
+        const RWCollectable& neuRef = *neu;
+        const qbFormular& originalRef = *original;
+        EXPECT_EQ(typeid(neuRef), typeid(originalRef));
         EXPECT_EQ(satz(static_cast<qbFormular&>(*neu)), standard);
     }
 }

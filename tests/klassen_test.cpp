@@ -328,7 +328,9 @@ TEST(Klassenregister, FactoryObjectEqualsANewSpecies) {
         std::unique_ptr<RWCollectable> art(vorlage->newSpecies());
         std::unique_ptr<RWCollectable> fabrik(getRWFactory()->create(vorlage->isA()));
         ASSERT_NE(fabrik, nullptr);
-        EXPECT_EQ(typeid(*fabrik), typeid(*art));
+        const RWCollectable& ausFabrik = *fabrik;
+        const RWCollectable& ausArt = *art;
+        EXPECT_EQ(typeid(ausFabrik), typeid(ausArt));
     }
 }
 

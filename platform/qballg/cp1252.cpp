@@ -1,17 +1,8 @@
 #include "qballg/cp1252.h"
 
+#include "qballg/cp1252_literal.h"
+
 #include <cstdio>
-
-namespace {
-
-// Characters of 0x80..0x9F. The five bytes Windows-1252 leaves open keep their C1 control.
-const char32_t kHighControls[32] = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
-
-} // namespace
 
 void appendUtf8(std::string& out, char32_t cp) {
     if (cp < 0x80) {
@@ -48,17 +39,9 @@ bool isContinuation(unsigned char b) { return (b & 0xC0) == 0x80; }
 
 } // namespace
 
-char32_t cp1252ToCodePoint(unsigned char byte) {
-    if (byte >= 0x80 && byte < 0xA0) return kHighControls[byte - 0x80];
-    return byte;
-}
+char32_t cp1252ToCodePoint(unsigned char byte) { return qbCp1252::zeichenAusByte(byte); }
 
-int cp1252FromCodePoint(char32_t codePoint) {
-    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) return static_cast<int>(codePoint);
-    for (int i = 0; i < 32; ++i)
-        if (kHighControls[i] == codePoint) return 0x80 + i;
-    return -1;
-}
+int cp1252FromCodePoint(char32_t codePoint) { return qbCp1252::byteAusZeichen(codePoint); }
 
 std::string cp1252ToUtf8(std::string_view cp1252) {
     std::string out;

@@ -1,6 +1,7 @@
 #include "rw/locale.h"
 
 #include "rw/rwdate.h"
+#include "qballg/cp1252_literal.h"
 
 #include <atomic>
 #include <string>
@@ -15,11 +16,11 @@ const char* const kEnglishMonthAbbreviations[12] = {"Jan", "Feb", "Mar", "Apr", 
                                                     "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 const RWLocaleSnapshot::MonthAlias kEnglishMonthAliases[] = {{nullptr, 0}};
 
-// This file is compiled to Windows-1252: the "ä" below is the single byte 0xE4.
-const char* const kGermanMonths[12] = {"Januar", "Februar", "März",      "April",   "Mai",      "Juni",
-                                       "Juli",   "August",  "September", "Oktober", "November", "Dezember"};
-const char* const kGermanMonthAbbreviations[12] = {"Jan", "Feb", "Mär", "Apr", "Mai", "Jun",
-                                                   "Jul", "Aug", "Sep", "Okt", "Nov", "Dez"};
+// Text of the German locale is Windows-1252, like the library's: "ä" is the single byte 0xE4.
+const char* const kGermanMonths[12] = {"Januar", "Februar", "März"_cp1252, "April",   "Mai",      "Juni",
+                                       "Juli",   "August",  "September",   "Oktober", "November", "Dezember"};
+const char* const kGermanMonthAbbreviations[12] = {"Jan", "Feb", "Mär"_cp1252, "Apr", "Mai", "Jun",
+                                                   "Jul", "Aug", "Sep",        "Okt", "Nov", "Dez"};
 // "Mrz" is the usual abbreviation where "ä" cannot be written; "Maerz" the spelled-out transcription.
 const RWLocaleSnapshot::MonthAlias kGermanMonthAliases[] = {{"Mrz", 3}, {"Maerz", 3}, {nullptr, 0}};
 
