@@ -85,6 +85,12 @@ void qbKlassenAbmelden() {
     }
 }
 
+// A program linked with the static library that reaches its forms only through the factory refers to
+// nothing of this file, and the linker would leave it out together with the registration below. The
+// library's link interface therefore names this symbol as undefined (-u qbformul_klassen_anker), which
+// keeps the file, and through the table every class, in every program that links the library.
+extern "C" void qbformul_klassen_anker() {}
+
 namespace {
 // Registers every class when the library is loaded and removes them when it is unloaded.
 struct qbKlassenRegistrierung {

@@ -91,6 +91,8 @@ const qbKlasse* qbKlasseZuName(const RWCString& klassenName);
 // Registration with the factory, in table order, and removal in reverse order. Both run once on their
 // own when the library is loaded and unloaded; they are public for tests.
 void qbKlassenAnmelden();
+// Keeps the registration in a statically linked program (see qbKlassen.cpp).
+extern "C" void qbformul_klassen_anker();
 void qbKlassenAbmelden();
 
 // Entry points of one class for the table, defined beside the class by QB_KLASSEN_EINSTIEG.
