@@ -3,6 +3,8 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libpugixml-dev libcli11-dev nlohmann-json3-dev
           libbenchmark-dev)
+# Clang 19 builds the sanitizer suite and the fuzz targets (libFuzzer and the sanitizers are in its runtime).
+packages+=(clang-19 libclang-rt-19-dev)
 [ "${1:-}" = "--bench" ] && packages+=(libboost-serialization-dev libcereal-dev)
 missing=()
 for p in "${packages[@]}"; do

@@ -17,6 +17,10 @@ struct Befehl {
 };
 using Befehle = std::vector<Befehl>;
 
+// The whole command line: parses argv, runs the subcommand and returns the exit code. Messages go to
+// std::cout and std::cerr.
+int hauptprogramm(int argc, char** argv);
+
 void richteDemoEin(CLI::App& haupt, Befehle& befehle);
 void richteListEin(CLI::App& haupt, Befehle& befehle);
 void richteShowEin(CLI::App& haupt, Befehle& befehle);

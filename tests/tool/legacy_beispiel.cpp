@@ -187,12 +187,16 @@ AltSatz l440Von2005() {
 
 } // namespace
 
-bool schreibeLegacyBeispiel(const std::string& pfad) {
-    const std::vector<std::pair<unsigned short, AltSatz>> formulare = {
+std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
+    return {
         {qbFormularL145::classIsA(), l145Von1999()}, {qbFormularL146::classIsA(), l146Von2000()},
         {qbFormularL145::classIsA(), l145Von2001()}, {qbFormularL147::classIsA(), l147Von2001()},
         {qbFormularL146::classIsA(), l146Von2002()}, {qbFormularL440::classIsA(), l440Von2005()},
     };
+}
+
+bool schreibeLegacyBeispiel(const std::string& pfad) {
+    const std::vector<std::pair<unsigned short, AltSatz>> formulare = legacyBeispielSaetze();
     RWFile f(pfad.c_str(), "wb");
     if (!f.isValid()) return false;
     // The list's stream: marker, Version, its collection's class id and count, then each form.

@@ -4,12 +4,19 @@
 // file is what this code writes.
 #pragma once
 
+#include "legacy_fixture.h"
+
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace qbtest {
 
 // Where the example lies in a checkout, relative to its root.
 inline const char* const kLegacyBeispielPfad = "examples/legacy/alte-layouts.qbf";
+
+// The records of the example, in file order: each with its class id.
+std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze();
 
 // Writes the example application file; false when the file cannot be written.
 bool schreibeLegacyBeispiel(const std::string& pfad);
