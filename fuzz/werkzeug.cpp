@@ -4,7 +4,6 @@
 
 #include <iostream>
 #include <streambuf>
-#include <vector>
 
 namespace {
 
@@ -13,14 +12,6 @@ struct Nirgendwo : std::streambuf {
     int overflow(int zeichen) override { return zeichen == EOF ? 0 : zeichen; }
     std::streamsize xsputn(const char*, std::streamsize n) override { return n; }
 };
-
-int rufe(std::vector<std::string> argumente) {
-    std::vector<char*> argv;
-    for (std::string& a : argumente)
-        argv.push_back(a.data());
-    argv.push_back(nullptr);
-    return qbtool::hauptprogramm(static_cast<int>(argumente.size()), argv.data());
-}
 
 } // namespace
 
@@ -32,9 +23,10 @@ int qbFuzzWerkzeug(const uint8_t* daten, size_t laenge) {
     const std::string& eingabe = qbfuzz::arbeitsdatei(0);
     const std::string& ausgabe = qbfuzz::arbeitsdatei(1);
     qbfuzz::schreibe(eingabe, qbfuzz::alsText(daten, laenge));
-    rufe({"qbformul", "explain", eingabe});
+    // The subcommands' work as the command line runs it, without building the command line each time.
+    qbtool::fuehreAus("explain", [&] { return qbtool::erklaere(eingabe); });
     std::remove(ausgabe.c_str());
-    if (rufe({"qbformul", "import", eingabe, "-o", ausgabe}) == 0) rufe({"qbformul", "explain", ausgabe});
+    qbtool::fuehreAus("import", [&] { return qbtool::importiere({eingabe, ausgabe}); });
 
     std::cout.rdbuf(cout);
     std::cerr.rdbuf(cerr);

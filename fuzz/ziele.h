@@ -23,7 +23,7 @@ int qbFuzzListe(const uint8_t* daten, size_t laenge);
 int qbFuzzXml(const uint8_t* daten, size_t laenge);
 
 // The input is given to the tool as a file: qbformul explain on it, and qbformul import of it as an XML
-// document (and explain of what import wrote).
+// document.
 int qbFuzzWerkzeug(const uint8_t* daten, size_t laenge);
 
 namespace qbfuzz {

@@ -115,7 +115,11 @@ std::vector<unsigned char> ladeDatei(const std::string& pfad) {
     pruefeRegulaereDatei(pfad);
     std::ifstream ein(pfad, std::ios::binary);
     if (!ein) throw dateiFehler(pfad, systemFehler(errno));
-    std::vector<unsigned char> bytes(std::istreambuf_iterator<char>(ein), {});
+    // In blocks: a regular file, but its size may change while it is read.
+    std::vector<unsigned char> bytes;
+    char block[65536];
+    while (ein.read(block, sizeof block) || ein.gcount() > 0)
+        bytes.insert(bytes.end(), block, block + ein.gcount());
     if (ein.bad()) throw dateiFehler(pfad, "cannot be read");
     return bytes;
 }

@@ -110,6 +110,8 @@ std::string abstand(long von, long nach) {
     return std::to_string(d < 0 ? -d : d) + (d < 0 ? " bytes earlier" : " bytes later");
 }
 
+} // namespace
+
 int erklaere(const std::string& pfad) {
     Rahmenleser leser(pfad);
     std::ostream& aus = std::cout;
@@ -214,8 +216,6 @@ int erklaere(const std::string& pfad) {
     if (befunde.size() > 1) meldung += " (and " + std::to_string(befunde.size() - 1) + " more, see above)";
     throw dateiFehler(pfad, meldung, code);
 }
-
-} // namespace
 
 void richteExplainEin(CLI::App& haupt, Befehle& befehle) {
     auto datei = std::make_shared<std::string>();

@@ -65,11 +65,6 @@ int exportiere(const ExportOptionen& o) {
     return kErfolg;
 }
 
-struct ImportOptionen {
-    std::string eingabe;
-    std::string ausgabe;
-};
-
 std::string liesText(const std::string& pfad) {
     if (pfad == "-") return std::string(std::istreambuf_iterator<char>(std::cin), {});
     std::ifstream ein(pfad, std::ios::binary);
@@ -78,6 +73,8 @@ std::string liesText(const std::string& pfad) {
     if (ein.bad()) throw dateiFehler(pfad, "cannot be read");
     return text;
 }
+
+} // namespace
 
 int importiere(const ImportOptionen& o) {
     const std::string name = o.eingabe == "-" ? "standard input" : o.eingabe;
@@ -112,8 +109,6 @@ int importiere(const ImportOptionen& o) {
     std::cout << '\n';
     return kErfolg;
 }
-
-} // namespace
 
 void richteExportEin(CLI::App& haupt, Befehle& befehle) {
     auto o = std::make_shared<ExportOptionen>();

@@ -21,6 +21,19 @@ using Befehle = std::vector<Befehl>;
 // std::cout and std::cerr.
 int hauptprogramm(int argc, char** argv);
 
+// Runs the work of the subcommand name: its exit code, or the code of what it threw (Fehler, the
+// library's RWxmsg, std::bad_alloc, std::exception), with the message on std::cerr.
+int fuehreAus(const std::string& name, const std::function<int()>& arbeit);
+
+// The work of two subcommands, for callers that have their arguments already (the fuzz target of the
+// tool); to be run through fuehreAus.
+int erklaere(const std::string& pfad); // explain FILE
+struct ImportOptionen {
+    std::string eingabe; // the XML document; "-" for standard input
+    std::string ausgabe; // the application file to write
+};
+int importiere(const ImportOptionen& o); // import IN -o OUT
+
 void richteDemoEin(CLI::App& haupt, Befehle& befehle);
 void richteListEin(CLI::App& haupt, Befehle& befehle);
 void richteShowEin(CLI::App& haupt, Befehle& befehle);

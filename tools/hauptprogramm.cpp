@@ -49,27 +49,29 @@ int hauptprogramm(int argc, char** argv) {
         return code == 0 ? kErfolg : kAufruffehler;
     }
 
-    for (const Befehl& befehl : befehle) {
-        if (!befehl.app->parsed()) continue;
-        try {
-            const int code = befehl.ausfuehren();
-            std::cout.flush();
-            return code;
-        } catch (const Fehler& fehler) {
-            meldeFehler(fehler.what());
-            return fehler.code();
-        } catch (const RWxmsg& fehler) {
-            meldeFehler(befehl.app->get_name() + ": " + fehler.why());
-            return kAufruffehler;
-        } catch (const std::bad_alloc&) {
-            meldeFehler(befehl.app->get_name() + ": out of memory");
-            return kAufruffehler;
-        } catch (const std::exception& fehler) {
-            meldeFehler(befehl.app->get_name() + ": " + fehler.what());
-            return kAufruffehler;
-        }
-    }
+    for (const Befehl& befehl : befehle)
+        if (befehl.app->parsed()) return fuehreAus(befehl.app->get_name(), befehl.ausfuehren);
     return kAufruffehler;
+}
+
+int fuehreAus(const std::string& name, const std::function<int()>& arbeit) {
+    try {
+        const int code = arbeit();
+        std::cout.flush();
+        return code;
+    } catch (const Fehler& fehler) {
+        meldeFehler(fehler.what());
+        return fehler.code();
+    } catch (const RWxmsg& fehler) {
+        meldeFehler(name + ": " + fehler.why());
+        return kAufruffehler;
+    } catch (const std::bad_alloc&) {
+        meldeFehler(name + ": out of memory");
+        return kAufruffehler;
+    } catch (const std::exception& fehler) {
+        meldeFehler(name + ": " + fehler.what());
+        return kAufruffehler;
+    }
 }
 
 } // namespace qbtool
