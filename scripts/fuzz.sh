@@ -1,28 +1,32 @@
 #!/usr/bin/env bash
 # Fuzzing: builds the libFuzzer targets (fuzz preset: Clang, ASan and UBSan, optimised), makes their seed
-# corpora and runs each target for SECONDS (default 60), at most RUNS executions if --runs is given, two
-# targets at a time (QBFORMUL_FUZZ_JOBS changes that). Prints per target the executions, the coverage
+# corpora and runs each target (all four, or those named) for SECONDS (default 60), at most RUNS executions
+# if --runs is given, two targets at a time (QBFORMUL_FUZZ_JOBS changes that). Prints per target the executions, the coverage
 # reached and the findings; exits 1 when there is a finding. The corpus each run grows is kept in
 # build/fuzz/lauf/<target> for the next run; findings are written to build/fuzz/funde/.
 #
 #     scripts/fuzz.sh 600                    # ten minutes each
 #     scripts/fuzz.sh 7200 --runs 10000000   # a campaign: ten million executions each, two hours at most
+#     scripts/fuzz.sh 60 xml liste           # two of the targets
 set -euo pipefail
 cd "$(dirname "$0")/.."
-sekunden=60 runs=-1
+sekunden=60 runs=-1 ziele=()
 while [ $# -gt 0 ]; do
     case "$1" in
     --runs) runs=$2; shift 2 ;;
     [0-9]*) sekunden=$1; shift ;;
-    *) echo "usage: scripts/fuzz.sh [SECONDS] [--runs N]" >&2; exit 2 ;;
+    formular | liste | xml | werkzeug) ziele+=("$1"); shift ;;
+    *) echo "usage: scripts/fuzz.sh [SECONDS] [--runs N] [formular|liste|xml|werkzeug]..." >&2; exit 2 ;;
     esac
 done
+[ ${#ziele[@]} -gt 0 ] || ziele=(formular liste xml werkzeug)
 scripts/bootstrap.sh
 cmake --preset fuzz >/dev/null
-ziele=(formular liste xml werkzeug)
 cmake --build --preset fuzz --target qbformul_fuzz_korpus "${ziele[@]/#/qbformul_fuzz_}"
 bau=build/fuzz/fuzz
-rm -rf "$bau/korpus" && "$bau/qbformul_fuzz_korpus" "$bau/korpus" "$PWD"
+korpus="$bau/korpus-$$"
+trap 'rm -rf "$korpus"' EXIT
+"$bau/qbformul_fuzz_korpus" "$korpus" "$PWD"
 mkdir -p "$bau/funde"
 
 laufe() {
@@ -30,7 +34,7 @@ laufe() {
     mkdir -p "$bau/lauf/$ziel"
     ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 "$bau/qbformul_fuzz_$ziel" -max_total_time="$sekunden" \
         -runs="$runs" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -dict=fuzz/qbformul.dict \
-        -artifact_prefix="$bau/funde/$ziel-" "$bau/lauf/$ziel" "$bau/korpus/$ziel" >"$bau/$ziel.log" 2>&1 || true
+        -artifact_prefix="$bau/funde/$ziel-" "$bau/lauf/$ziel" "$korpus/$ziel" >"$bau/$ziel.log" 2>&1 || true
 }
 jobs_max=${QBFORMUL_FUZZ_JOBS:-2}
 for ziel in "${ziele[@]}"; do
