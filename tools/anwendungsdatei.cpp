@@ -371,10 +371,11 @@ std::unique_ptr<qbFormularListe> liesAnwendung(const std::string& pfad) {
                       "the form list could not be read" + (bibliothek.empty() ? "" : ": " + bibliothek));
 }
 
-long speichereAnwendung(const std::string& ziel, const qbFormularListe& liste, bool sicherung) {
+long speichereAnwendung(const std::string& ziel, const qbFormularListe& liste, bool vorOrt) {
     long groesse = 0;
     AtomarOptionen optionen;
-    optionen.sicherung = sicherung;
+    optionen.sicherung = vorOrt;
+    optionen.nurErsetzen = vorOrt;
     optionen.pruefe = [&](const std::string& temp) {
         try {
             const std::unique_ptr<qbFormularListe> zurueck = liesAnwendung(temp);
@@ -391,9 +392,18 @@ long speichereAnwendung(const std::string& ziel, const qbFormularListe& liste, b
         [&](const std::string& temp) {
             RWFile datei(temp.c_str(), "wb");
             if (!datei.isValid()) throw dateiFehler(ziel, "cannot be written: " + systemFehler(errno));
+            // The file stops writing at its first failure and keeps the failure; after it, the file makes no
+            // system call, so errno still holds the cause.
+            errno = 0;
             datei << liste;
-            if (!datei.Flush() || datei.Error())
-                throw dateiFehler(ziel, "cannot be written: " + systemFehler(errno));
+            if (!datei.Flush() || datei.Error()) {
+                const int fehler = errno;
+                throw dateiFehler(ziel,
+                                  "cannot be written: " +
+                                      (fehler ? systemFehler(fehler) : std::string("a write stopped short")));
+            }
+            // The file's close reports nothing; the sync of the temporary file that follows reports what
+            // the disk refused.
             groesse = datei.CurOffset();
         },
         optionen);

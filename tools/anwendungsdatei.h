@@ -20,9 +20,10 @@ namespace qbtool {
 std::unique_ptr<qbFormularListe> liesAnwendung(const std::string& pfad);
 
 // Stores the application in a file through the list's own stream operator, atomically (see atomar.h),
-// and reads the new file back before it replaces the target. With sicherung the old file stays as
-// <ziel>.bak. Returns the number of bytes written. Throws Fehler naming the target.
-long speichereAnwendung(const std::string& ziel, const qbFormularListe& liste, bool sicherung = false);
+// and reads the new file back before it replaces the target. With vorOrt the target is the file the list
+// was read from: its old content stays as <ziel>.bak, and it is not written again when it vanished
+// meanwhile. Returns the number of bytes written. Throws Fehler naming the target and the cause.
+long speichereAnwendung(const std::string& ziel, const qbFormularListe& liste, bool vorOrt = false);
 
 // The head of a stored list.
 struct Listenkopf {

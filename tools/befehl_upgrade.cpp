@@ -1,7 +1,9 @@
 // qbformul upgrade FILE...: restores each application and saves it again, so that every record gets the
 // layout and the Version stamp its class writes today. Files run in parallel; each is written atomically.
 #include "anwendungsdatei.h"
+#include "atomar.h"
 #include "befehle.h"
+#include "stoerung.h"
 #include "werkzeug.h"
 
 #include "core/qbKlassen.h"
@@ -34,6 +36,7 @@ struct Ergebnis {
     std::string ziel;
     bool erfolg = false;
     std::string fehler;
+    bool ersetzt = false; // the target holds the new content although the upgrade failed
     unsigned formulare = 0;
     unsigned erneuert = 0; // records whose stored Version was not their class's
     long bytes = 0;
@@ -106,7 +109,7 @@ std::vector<std::string> ziele(const UpgradeOptionen& o) {
     return ziele;
 }
 
-Ergebnis erneuere(const std::string& datei, const std::string& ziel, bool sicherung) {
+Ergebnis erneuere(const std::string& datei, const std::string& ziel, bool vorOrt) {
     Ergebnis r;
     r.ziel = ziel;
     try {
@@ -117,8 +120,11 @@ Ergebnis erneuere(const std::string& datei, const std::string& ziel, bool sicher
             const qbKlasse* klasse = qbKlasseZuId(form.isA());
             if (klasse && *klasse->version && form.RefVersion() != klasse->version) ++r.erneuert;
         }
-        r.bytes = speichereAnwendung(ziel, *liste, sicherung);
+        r.bytes = speichereAnwendung(ziel, *liste, vorOrt);
         r.erfolg = true;
+    } catch (const ErsetztFehler& f) {
+        r.fehler = f.what();
+        r.ersetzt = true;
     } catch (const Fehler& f) {
         r.fehler = f.what();
     } catch (const std::exception& x) {
@@ -140,8 +146,12 @@ int erneuereAlle(const UpgradeOptionen& o) {
     auto arbeite = [&] {
         for (size_t i; (i = naechste++) < n;) {
             ergebnisse[i] = erneuere(o.dateien[i], zielDateien[i], o.vorOrt);
-            if (!ergebnisse[i].erfolg) fortschritt.melde(ergebnisse[i].fehler + "; left as it was");
+            const Ergebnis& r = ergebnisse[i];
+            if (!r.erfolg) fortschritt.melde(r.ersetzt ? r.fehler : r.fehler + "; left as it was");
             fortschritt.schritt();
+            if (i == 0)
+                for (const std::string& pfad : stoerungsPfade("remove-after-first"))
+                    std::remove(pfad.c_str());
         }
     };
     std::vector<std::thread> faeden;
@@ -195,10 +205,12 @@ void richteUpgradeEin(CLI::App& haupt, Befehle& befehle) {
     app->footer(umbrochen(
         "Every record is read in the layout its stored Version announces and written in the layout of its "
         "class today, with the class's current Version stamp. Each target is written to TARGET.tmp.<pid>, "
-        "synced "
-        "to disk, read back, and only then renamed over the target, so a target is always either the old or "
-        "the complete new file. A file that does not read is reported and left untouched; the others go on. "
-        "A progress bar shows on a terminal, and a summary at the end. Exit code 1 when a file failed."));
+        "synced to disk, read back, and only then renamed over the target, so a target is always either the "
+        "old or the complete new file. A file that does not read, that cannot be written (a full disk, a "
+        "folder without write permission) or that vanishes while the batch runs is reported with its name "
+        "and the cause and left as it was; the others go on. With --in-place, a file removed meanwhile is "
+        "not written again. A target that is a device or a pipe (-o /dev/null) is written straight. A "
+        "progress bar shows on a terminal, and a summary at the end. Exit code 1 when a file failed."));
     befehle.push_back({app, [o] { return erneuereAlle(*o); }});
 }
 

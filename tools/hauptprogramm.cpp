@@ -4,6 +4,9 @@
 
 #include "rw/rwerr.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <new>
@@ -20,13 +23,23 @@ std::string einzeilig(const CLI::App* haupt, const CLI::Error& fehler) {
     return befehl + ": " + fehler.what() + " (see " + befehl + " --help)\n";
 }
 
+// The exit code once what went to stdout has arrived: stdout on a full disk is a failure, not a success.
+int nachAusgabe(int code) {
+    std::cout.flush();
+    if (std::cout && std::fflush(stdout) == 0) return code;
+    const int fehler = errno;
+    meldeFehler("cannot write to standard output" + (fehler ? ": " + systemFehler(fehler) : std::string()));
+    return std::max(code, static_cast<int>(kPruefungFehlgeschlagen));
+}
+
 } // namespace
 
 int hauptprogramm(int argc, char** argv) {
     CLI::App haupt(
         "Looks into, converts and upgrades the stored applications of the form library. Text on the "
         "terminal and in XML and JSON is UTF-8; the library's Windows-1252 is converted at the edge.\n"
-        "Exit codes: 0 success, 1 a check failed, 2 bad usage or unreadable input.",
+        "Exit codes: 0 success, 1 a check failed or output could not be written, 2 bad usage or unreadable "
+        "input.",
         "qbformul");
     haupt.set_version_flag("--version", QBFORMUL_VERSION);
     haupt.require_subcommand(1);
@@ -56,21 +69,19 @@ int hauptprogramm(int argc, char** argv) {
 
 int fuehreAus(const std::string& name, const std::function<int()>& arbeit) {
     try {
-        const int code = arbeit();
-        std::cout.flush();
-        return code;
+        return nachAusgabe(arbeit());
     } catch (const Fehler& fehler) {
         meldeFehler(fehler.what());
-        return fehler.code();
+        return nachAusgabe(fehler.code());
     } catch (const RWxmsg& fehler) {
         meldeFehler(name + ": " + fehler.why());
-        return kAufruffehler;
+        return nachAusgabe(kAufruffehler);
     } catch (const std::bad_alloc&) {
         meldeFehler(name + ": out of memory");
-        return kAufruffehler;
+        return nachAusgabe(kAufruffehler);
     } catch (const std::exception& fehler) {
         meldeFehler(name + ": " + fehler.what());
-        return kAufruffehler;
+        return nachAusgabe(kAufruffehler);
     }
 }
 

@@ -16,8 +16,9 @@ namespace qbtool {
 // Exit codes of every subcommand.
 enum Ausgang : int {
     kErfolg = 0,
-    kPruefungFehlgeschlagen =
-        1,             // a check failed: a file did not upgrade, a record did not end where it should
+    // a check failed: a file did not upgrade, a record did not end where it should; or stdout cannot be
+    // written
+    kPruefungFehlgeschlagen = 1,
     kAufruffehler = 2, // bad usage or unreadable input
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "legacy_beispiel.h"
+#include "legacy_fixture.h"
 #include "prozess.h"
 
 #include "core/qbFormularListe.h"
@@ -16,6 +17,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace qbtest {
 
@@ -70,6 +72,32 @@ inline std::string neuGespeichert(const std::string& pfad, const Ordner& ordner)
 
 inline bool enthaelt(const std::string& text, const std::string& teil) {
     return text.find(teil) != std::string::npos;
+}
+
+// Files of 4000 old records each, so that an upgrade of them takes a while.
+inline std::vector<std::string> grosseAlteDateien(const Ordner& ordner, int anzahl) {
+    const AltSatz satz =
+        AltSatz::kopf("09.2001", "L440", "Erkl\xE4rung Kampfsport", 1, "VP1").text("Judo").flags(12).text("");
+    const int formulare = 4000;
+    const std::string muster = ordner / "muster.qbf";
+    {
+        RWFile f(muster.c_str(), "wb");
+        f.Write(':');
+        RWCString("05.1999").saveOn(f);
+        f.Write(static_cast<unsigned short>(0x8010));
+        f.Write(static_cast<unsigned>(formulare));
+        for (int i = 0; i < formulare; ++i) {
+            f.Write(static_cast<unsigned short>(qbFormularL440::classIsA()));
+            satz.schreibe(f);
+        }
+    }
+    const std::string inhalt = liesDatei(muster);
+    std::vector<std::string> dateien;
+    for (int i = 0; i < anzahl; ++i) {
+        dateien.push_back(ordner / ("gross" + std::to_string(i) + ".qbf"));
+        schreibeDatei(dateien.back(), inhalt);
+    }
+    return dateien;
 }
 
 } // namespace qbtest

@@ -20,6 +20,22 @@ struct Lauf {
 Lauf qbformul(const std::vector<std::string>& argumente, const std::string& ordner = "",
               const std::string& eingabe = "");
 
+// How to start the tool beyond its arguments, for runs under faults.
+struct Start {
+    std::string ordner;                // working folder; empty: the test's own
+    std::string eingabe;               // stdin
+    std::vector<std::string> umgebung; // added to the environment, "NAME=value"
+    std::string ausgabeNach;           // stdout goes to this file (such as /dev/full) instead of Lauf::aus
+    // RLIMIT_FSIZE in bytes, -1 for none: a write beyond it stops short and then fails with EFBIG, as
+    // SIGXFSZ is ignored.
+    long dateiHoechstens = -1;
+    // Without the privileges that pass over file permissions (CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH,
+    // CAP_FOWNER), so that permission bits bind the tool when the tests run as root as they bind any
+    // user. Where they cannot be given up (no CAP_SETPCAP), the tool keeps them.
+    bool ohneVorrechte = false;
+};
+Lauf qbformul(const std::vector<std::string>& argumente, const Start& start);
+
 // Starts the tool without waiting, its output thrown away; for tests that end it themselves.
 pid_t starteQbformul(const std::vector<std::string>& argumente);
 // Waits for a started tool; its exit code, or 128 + the signal that ended it.

@@ -2,8 +2,6 @@
 // many files in parallel, and a killed run that never leaves a half-written file.
 #include "anwendungen.h"
 
-#include "legacy_fixture.h"
-
 #include <csignal>
 #include <sys/stat.h>
 #include <thread>
@@ -114,32 +112,6 @@ TEST_F(ToolUpgrade, RefusesSeveralInputsIntoOneFile) {
     EXPECT_EQ(lauf.code, 2);
     EXPECT_TRUE(enthaelt(lauf.err, "existing folder")) << lauf.err;
     EXPECT_FALSE(gibtEs(ordner / "x.qbf"));
-}
-
-// Files of many old records, so that an upgrade of them takes a while.
-std::vector<std::string> grosseAlteDateien(const Ordner& ordner, int anzahl) {
-    const AltSatz satz =
-        AltSatz::kopf("09.2001", "L440", "Erkl\xE4rung Kampfsport", 1, "VP1").text("Judo").flags(12).text("");
-    const int formulare = 4000;
-    const std::string muster = ordner / "muster.qbf";
-    {
-        RWFile f(muster.c_str(), "wb");
-        f.Write(':');
-        RWCString("05.1999").saveOn(f);
-        f.Write(static_cast<unsigned short>(0x8010));
-        f.Write(static_cast<unsigned>(formulare));
-        for (int i = 0; i < formulare; ++i) {
-            f.Write(static_cast<unsigned short>(qbFormularL440::classIsA()));
-            satz.schreibe(f);
-        }
-    }
-    const std::string inhalt = liesDatei(muster);
-    std::vector<std::string> dateien;
-    for (int i = 0; i < anzahl; ++i) {
-        dateien.push_back(ordner / ("gross" + std::to_string(i) + ".qbf"));
-        schreibeDatei(dateien.back(), inhalt);
-    }
-    return dateien;
 }
 
 TEST_F(ToolUpgrade, KilledRunNeverLeavesAHalfWrittenFile) {
