@@ -177,11 +177,12 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
 
     // The demo application and its XML, written by the tool as a user gets them.
     const fs::path demo = arbeit / "demo";
-    std::cout.setstate(std::ios::failbit);
+    qbfuzz::Nirgendwo nirgendwo;
+    std::streambuf* cout = std::cout.rdbuf(&nirgendwo);
     werkzeug({"qbformul", "demo", demo.string()});
     werkzeug({"qbformul", "export", (demo / "antrag.qbf").string(), "-o", (arbeit / "liste.xml").string(),
               "--list-only"});
-    std::cout.clear();
+    std::cout.rdbuf(cout);
     const std::string antrag = liesDatei(demo / "antrag.qbf");
     const std::string beispiel = liesDatei(quellen / "examples/legacy/alte-layouts.qbf");
     korpus.lege("liste", "demo-0", std::string(1, '\0') + antrag);
