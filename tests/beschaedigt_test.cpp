@@ -22,6 +22,7 @@
 
 #include "allokationen.h"
 #include "legacy_fixture.h"
+#include "klassen_util.h"
 #include "test_util.h"
 
 #include <algorithm>
@@ -104,47 +105,7 @@ bool amEnde(RWvistream& s) { return s.get() == std::char_traits<char>::eof(); }
 
 // ---- Classes and fields
 
-// The field tables of a class and its bases, the header last.
-const std::vector<const qbFeldTabelle*>& kette(const qbKlasse& k) {
-    static std::map<RWClassID, std::vector<const qbFeldTabelle*>> ketten;
-    auto [stelle, neu] = ketten.try_emplace(k.id);
-    if (neu)
-        for (const qbKlasse* c = &k; c; c = qbKlasseZuName(c->basisName))
-            stelle->second.push_back(&c->felder());
-    return stelle->second;
-}
-
-std::unique_ptr<qbFormular> erzeuge(const qbKlasse& k) {
-    return std::unique_ptr<qbFormular>(static_cast<qbFormular*>(k.erzeuge()));
-}
-
-// The value of a field as text.
-std::string wert(const qbFeld& z, const qbFormular& f) {
-    switch (z.art) {
-    case qbArt::Text:
-        return hex(bytesOf((f.*z.mitglied.text).std()));
-    case qbArt::Flag:
-        return std::to_string(f.*z.mitglied.flag);
-    case qbArt::Char:
-        return std::to_string(f.*z.mitglied.zeichen);
-    case qbArt::Bool:
-        return std::to_string(f.*z.mitglied.wahrheit);
-    case qbArt::Int:
-    case qbArt::Enum:
-        return std::to_string(f.*z.mitglied.ganz);
-    case qbArt::Long:
-        return std::to_string(f.*z.mitglied.lang);
-    case qbArt::Double:
-        return std::to_string(f.*z.mitglied.zahl);
-    case qbArt::Date:
-        return std::to_string((f.*z.mitglied.datum).julian());
-    case qbArt::Person:
-        return (f.*z.mitglied.person).RefGebDat().std();
-    }
-    return {};
-}
-
-// The same value in both forms; wert() gives the text only for messages.
+// The same value in both forms; feldAlsText() gives the text only for messages.
 bool gleich(const qbFeld& z, const qbFormular& a, const qbFormular& b) {
     switch (z.art) {
     case qbArt::Text:
@@ -161,7 +122,7 @@ bool gleich(const qbFeld& z, const qbFormular& a, const qbFormular& b) {
     case qbArt::Long:
         return a.*z.mitglied.lang == b.*z.mitglied.lang;
     default:
-        return wert(z, a) == wert(z, b);
+        return feldAlsText(z, a) == feldAlsText(z, b);
     }
 }
 
@@ -227,7 +188,8 @@ std::string unterschiede(const qbKlasse& k, const qbFormular& ist, const qbFormu
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
             if (!gleich(z, ist, soll))
-                text += std::string(" ") + z.name + "=" + wert(z, ist) + " (expected " + wert(z, soll) + ")";
+                text += std::string(" ") + z.name + "=" + feldAlsText(z, ist) + " (expected " +
+                        feldAlsText(z, soll) + ")";
     return text;
 }
 
@@ -256,8 +218,8 @@ std::string teilweiseGelesen(const qbKlasse& k, const qbFormular& teil, const qb
                     ausAbgeschnittenerZahl(teil.*z.mitglied.lang, ganz.*z.mitglied.lang))
                     continue;
             }
-            text += std::string(" ") + z.name + "=" + wert(z, teil) + " (intact " + wert(z, ganz) +
-                    ", fresh " + wert(z, frisch) + ")";
+            text += std::string(" ") + z.name + "=" + feldAlsText(z, teil) + " (intact " +
+                    feldAlsText(z, ganz) + ", fresh " + feldAlsText(z, frisch) + ")";
         }
     return text;
 }
