@@ -11,7 +11,8 @@
 #include "rw/vstream.h"
 
 #include <memory>
-#include <algorithm>
+#include <optional>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -366,29 +367,39 @@ void liesInZeiger(Strom& s, qbFormularListe*& liste) {
 
 namespace {
 
-// A list read back must own each of its forms once: an element that is no form, or the collection itself,
-// is taken out (and reported by the caller), and a second reference to a form read before becomes a copy.
-bool bereinige(RWDlistCollectables& formulare) {
-    bool entfernt = false;
-    std::vector<RWCollectable*> gesehen, geloescht; // kept sorted: lists are short
-    auto merke = [](std::vector<RWCollectable*>& menge, RWCollectable* c) {
-        auto stelle = std::lower_bound(menge.begin(), menge.end(), c);
-        if (stelle != menge.end() && *stelle == c) return false;
-        menge.insert(stelle, c);
-        return true;
-    };
-    for (size_t i = 0; i < formulare.entries();) {
+// A list read back owns each of its forms once, and only forms that its own read made. An element that is
+// nil, no form, the collection itself, a second reference to a form of this read, or a reference to an
+// object read before the collection (earlier in an outer operation) is taken out, and the caller reports
+// it: a list stored by this library or the original holds each form once, so such an element comes from a
+// damaged stream. Objects this read made that do not stay are freed; older ones belong to whoever read
+// them. The objects this read made are the read table's entries from ersterEintrag on; without a table
+// (the collection's read had one of its own) its elements cannot name any other. One pass, whatever the
+// number of elements.
+bool behalteGelesene(RWDlistCollectables& formulare, const RWReadTable* tabelle, size_t ersterEintrag) {
+    std::unordered_set<RWCollectable*> offen; // made by this read and not yet an element of the list
+    if (tabelle)
+        for (size_t i = ersterEintrag; i < tabelle->entries(); ++i)
+            offen.insert(tabelle->collectableAt(i));
+    else
+        for (size_t i = 0; i < formulare.entries(); ++i)
+            offen.insert(formulare.at(i));
+    offen.erase(nullptr);
+    offen.erase(&formulare);
+    std::vector<RWCollectable*> bleiben;
+    bleiben.reserve(formulare.entries());
+    for (size_t i = 0; i < formulare.entries(); ++i) {
         RWCollectable* c = formulare.at(i);
-        if (!c || c == &formulare || !dynamic_cast<qbFormular*>(c)) {
-            formulare.removeAt(i);
-            entfernt = true;
-            if (c && c != &formulare && merke(geloescht, c)) delete c;
-            continue;
-        }
-        if (!merke(gesehen, c)) formulare.at(i) = c->copy();
-        ++i;
+        if (!offen.erase(c)) continue;
+        if (dynamic_cast<qbFormular*>(c))
+            bleiben.push_back(c);
+        else
+            delete c;
     }
-    return entfernt;
+    if (bleiben.size() == formulare.entries()) return false;
+    formulare.clear();
+    for (RWCollectable* c : bleiben)
+        formulare.append(c);
+    return true;
 }
 
 } // namespace
@@ -399,22 +410,41 @@ bool bereinige(RWDlistCollectables& formulare) {
 template <class Strom>
 void qbLiesListe(Strom& s, qbFormularListe& liste) {
     liste.Version.restoreFrom(s);
+    // The read table of an outer operation (the list's operator>> opens one), if there is any: its
+    // entries tell what the collection's read made. Without one the collection's read opens its own, which
+    // on RWFile begins with the magic number, so none is opened here.
+    bool mitTabelle = false;
+    {
+        RWUseReadTable probe;
+        mitTabelle = !probe.firstUse();
+    }
+    std::optional<RWUseReadTable> tabelle;
+    if (mitTabelle) tabelle.emplace();
+    const size_t ersterEintrag = mitTabelle ? (*tabelle)->entries() : 0;
     std::vector<RWCollectable*> vorher;
     for (size_t i = 0; i < liste.Formulare.entries(); ++i)
         vorher.push_back(liste.Formulare.at(i));
-    auto gibFrei = [&] {
+    // True when an element was taken out.
+    auto schliesseAb = [&] {
+        if (mitTabelle && ((*tabelle)->entries() <= ersterEintrag ||
+                           (*tabelle)->collectableAt(ersterEintrag) != &liste.Formulare))
+            return false; // the collection was not read: the list is as it was
+        const bool entfernt =
+            behalteGelesene(liste.Formulare, mitTabelle ? &**tabelle : nullptr, ersterEintrag);
+        std::unordered_set<RWCollectable*> elemente;
+        for (size_t i = 0; i < liste.Formulare.entries(); ++i)
+            elemente.insert(liste.Formulare.at(i));
         for (RWCollectable* alt : vorher)
-            if (!liste.Formulare.findReference(alt)) delete alt;
+            if (!elemente.count(alt)) delete alt;
+        return entfernt;
     };
     try {
         RWCollectable::recursiveRestoreFrom(s, &liste.Formulare);
     } catch (...) {
-        gibFrei();
-        bereinige(liste.Formulare);
+        schliesseAb();
         throw;
     }
-    gibFrei();
-    if (bereinige(liste.Formulare)) falscherVerweis();
+    if (schliesseAb()) falscherVerweis();
 }
 
 void rwSaveGuts(RWFile& f, const qbFormularListe& liste) {

@@ -10,6 +10,7 @@
 #include "rw/pstream.h"
 #include "rw/rwfile.h"
 
+#include "klassen_util.h"
 #include "test_util.h"
 
 #include <memory>
@@ -31,18 +32,6 @@ std::vector<const qbKlasse*> alleKlassen() {
     for (const qbKlasse& k : qbKlassen)
         alle.push_back(&k);
     return alle;
-}
-
-// The tables of a class and of its bases, the header last.
-std::vector<const qbFeldTabelle*> kette(const qbKlasse& k) {
-    std::vector<const qbFeldTabelle*> tabellen;
-    for (const qbKlasse* c = &k; c; c = qbKlasseZuName(c->basisName))
-        tabellen.push_back(&c->felder());
-    return tabellen;
-}
-
-std::unique_ptr<qbFormular> erzeuge(const qbKlasse& k) {
-    return std::unique_ptr<qbFormular>(static_cast<qbFormular*>(k.erzeuge()));
 }
 
 RWCString zufallsText(std::mt19937& zufall) {
@@ -89,31 +78,6 @@ void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall) {
     }
 }
 
-std::string wert(const qbFeld& z, const qbFormular& f) {
-    switch (z.art) {
-    case qbArt::Text:
-        return hex(bytesOf((f.*z.mitglied.text).std()));
-    case qbArt::Flag:
-        return std::to_string(f.*z.mitglied.flag);
-    case qbArt::Char:
-        return std::to_string(f.*z.mitglied.zeichen);
-    case qbArt::Bool:
-        return std::to_string(f.*z.mitglied.wahrheit);
-    case qbArt::Int:
-    case qbArt::Enum:
-        return std::to_string(f.*z.mitglied.ganz);
-    case qbArt::Long:
-        return std::to_string(f.*z.mitglied.lang);
-    case qbArt::Double:
-        return std::to_string(f.*z.mitglied.zahl);
-    case qbArt::Date:
-        return std::to_string((f.*z.mitglied.datum).julian());
-    case qbArt::Person:
-        return (f.*z.mitglied.person).RefGebDat().std();
-    }
-    return {};
-}
-
 // A form of the class with every field random; a base class gets a current version so that its record
 // is read in the current layout.
 std::unique_ptr<qbFormular> zufallsFormular(const qbKlasse& k, unsigned saat) {
@@ -129,7 +93,7 @@ std::unique_ptr<qbFormular> zufallsFormular(const qbKlasse& k, unsigned saat) {
 void erwarteGleich(const qbKlasse& k, const qbFormular& a, const qbFormular& b, const std::string& wo) {
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            EXPECT_EQ(wert(z, a), wert(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
+            EXPECT_EQ(feldAlsText(z, a), feldAlsText(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
 }
 
 // Bytes of saveGuts(RWFile&) alone.
@@ -258,7 +222,7 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
             const bool gelesenErwartet =
                 z.xmlLeseKey && z.xmlSchreibKey && (kopf ? kopfWirdGelesen : ebene == 0);
             const qbFormular& erwartet = gelesenErwartet ? *form : *frisch;
-            EXPECT_EQ(wert(z, *gelesen), wert(z, erwartet)) << k.klassenName << "::" << z.name;
+            EXPECT_EQ(feldAlsText(z, *gelesen), feldAlsText(z, erwartet)) << k.klassenName << "::" << z.name;
         }
     }
 }
@@ -342,7 +306,7 @@ TEST_P(JedeKlasse, GeneratedReadAndTableReadOfTheCurrentLayoutAgree) {
 }
 
 namespace {
-// The default a row gives a new object, as text of wert().
+// The default a row gives a new object, as text of feldAlsText().
 std::string standardWert(const qbFeld& z) {
     switch (z.art) {
     case qbArt::Text:
@@ -378,10 +342,10 @@ TEST_P(JedeKlasse, NewObjectHoldsTheDefaultsOfItsRows) {
         if (t == &qbFormular::felder()) continue;
         for (const qbFeld& z : *t) {
             if (k.klassenName == std::string("qbFormularL146") && z.name == std::string("Dauer")) {
-                EXPECT_EQ(wert(z, *form), "0");
+                EXPECT_EQ(feldAlsText(z, *form), "0");
                 continue;
             }
-            EXPECT_EQ(wert(z, *form), standardWert(z)) << k.klassenName << "::" << z.name;
+            EXPECT_EQ(feldAlsText(z, *form), standardWert(z)) << k.klassenName << "::" << z.name;
         }
     }
 }

@@ -24,6 +24,7 @@ enum class Strom { Datei, Binaer, Portabel };
 inline const char* name(Strom s) {
     return s == Strom::Datei ? "RWFile" : s == Strom::Binaer ? "RWbostream" : "RWpostream";
 }
+inline void PrintTo(Strom s, std::ostream* os) { *os << name(s); }
 
 class AltSatz {
 public:

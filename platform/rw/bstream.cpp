@@ -2,6 +2,7 @@
 
 #include "rw/endian.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <istream>
@@ -61,8 +62,6 @@ template <>
 struct Wire<double> {
     using type = double;
 };
-
-constexpr size_t kChunk = 64 * 1024;
 
 } // namespace
 
@@ -190,13 +189,15 @@ RWvistream& RWbistream::getString(std::string& s, size_t n) {
         read(s.data(), n);
         return *this;
     }
+    // The streambuf cannot tell that the string is all there: it is read piece by piece, and the string
+    // grows only with the characters that arrived, however long the stored length says it is.
     std::string value;
-    while (value.size() < n && good()) {
-        size_t chunk = std::min(kChunk, n - value.size());
-        size_t at = value.size();
-        value.resize(at + chunk);
-        read(value.data() + at, chunk);
+    char stueck[4096];
+    while (value.size() < n) {
+        const size_t will = std::min(sizeof stueck, n - value.size());
+        if (!read(stueck, will)) return *this;
+        value.append(stueck, will);
     }
-    if (good()) s.swap(value);
+    s.swap(value);
     return *this;
 }
