@@ -1,9 +1,11 @@
-// The seed corpora of the fuzz targets, in DIR/formular, DIR/liste, DIR/xml and DIR/werkzeug. Seeds: a record
-// of every class, empty and with every field filled, on each stream kind; the records of old layouts that the
-// fixture writer makes for the example of old layouts; the demo application (file, virtual streams, XML of
-// export and of export --list-only); and the stored example of old layouts.
+// The seed corpora of the fuzz targets, in DIR/formular, DIR/liste, DIR/xml and DIR/werkzeug. Seeds: a
+// record of every class, empty and with every field filled, on each stream kind; a record of every old
+// layout of every class and the records of the example of old layouts, as the fixture writer writes them;
+// the demo application (file, virtual streams, XML of export and of export --list-only); and the stored
+// example of old layouts.
 #include "ziele.h"
 
+#include "alte_layouts.h"
 #include "befehle.h"
 #include "legacy_beispiel.h"
 
@@ -150,8 +152,14 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
                         kopf + satz(*voll, art, arbeit));
         }
     }
+    // Every old layout of every class, and the records of the example of old layouts.
+    std::vector<std::pair<unsigned short, qbtest::AltSatz>> alteSaetze = qbtest::legacyBeispielSaetze();
+    for (const qbKlasse& k : qbKlassen)
+        for (qbtest::AlterLayoutSatz& alt :
+             qbtest::alteLayoutSaetze(k, *k.version ? k.version : "10.2002", (arbeit / "layout").c_str()))
+            alteSaetze.emplace_back(k.id, std::move(alt.satz));
     int nummer = 0;
-    for (const auto& [id, alt] : qbtest::legacyBeispielSaetze()) {
+    for (const auto& [id, alt] : alteSaetze) {
         ++nummer;
         for (int art = 0; art < 3; ++art) {
             std::string bytes;

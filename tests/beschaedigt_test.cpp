@@ -21,6 +21,7 @@
 #include "rw/rwstore.h"
 
 #include "allokationen.h"
+#include "alte_layouts.h"
 #include "legacy_fixture.h"
 #include "klassen_util.h"
 #include "test_util.h"
@@ -264,103 +265,6 @@ private:
     RWClassID id_;
 };
 
-// What a restore reads, value by value: the field ("" for a value read and thrown away) and its type.
-struct Gelesen {
-    std::string feld;
-    qbArt art;
-    bool operator==(const Gelesen&) const = default;
-};
-
-class Mitschrift : public qbLeseBeobachter {
-public:
-    Mitschrift() : vorher_(qbSetzeLeseBeobachter(this)) {}
-    ~Mitschrift() override { qbSetzeLeseBeobachter(vorher_); }
-    void layout(const char*, const char*) override {}
-    void feld(const char* name, qbArt art, long, long, const std::string&) override {
-        werte.push_back({name ? name : "", art});
-    }
-    std::vector<Gelesen> werte;
-
-private:
-    qbLeseBeobachter* vorher_;
-};
-
-// What the class's restore reads from a record of that version, the header first. Found by reading the
-// version's header and then zero bytes with an observer listening: every text there is empty, so the
-// reader goes exactly as far as its layout goes, and what it took is the layout. (The readers choose a
-// layout by the stored version alone.)
-std::vector<Gelesen> layoutDerVersion(const qbKlasse& k, const std::string& version, Dateieingabe& datei) {
-    AltSatz satz = AltSatz::kopf(version, k.nummer, k.name, k.seiten, k.person);
-    for (int i = 0; i < 512; ++i)
-        satz.ganz(0);
-    {
-        RWFile f(datei.pfad(), "wb");
-        satz.schreibe(f);
-    }
-    RWFile f(datei.pfad(), "rb");
-    auto form = erzeuge(k);
-    Mitschrift mitschrift;
-    form->restoreGuts(f);
-    EXPECT_TRUE(f.good()) << k.klassenName << " " << version << ": the layout is longer than the zeros";
-    return mitschrift.werte;
-}
-
-// The fixture writer's record of a layout: the header of the version and the class, then a value of its
-// own for every value of the layout, texts never empty.
-AltSatz satzDesLayouts(const qbKlasse& k, const std::string& version, const std::vector<Gelesen>& layout) {
-    AltSatz satz;
-    int n = 0;
-    for (const Gelesen& g : layout) {
-        ++n;
-        if (g.feld == "Version")
-            satz.text(version);
-        else if (g.feld == "DruckstueckNummer" && *k.nummer)
-            satz.text(k.nummer);
-        else if (g.feld == "PersonenKennung" && *k.person)
-            satz.text(k.person);
-        else
-            switch (g.art) {
-            case qbArt::Text:
-                satz.text("a" + std::to_string(n) + (n % 4 ? "" : " mit Platz vom Heap") + "\xFC");
-                break;
-            case qbArt::Flag:
-                satz.flag(static_cast<unsigned char>(n));
-                break;
-            case qbArt::Char:
-                satz.zeichen(static_cast<char>('a' + n % 26));
-                break;
-            case qbArt::Int:
-                satz.ganz(90000 + n);
-                break;
-            case qbArt::Long:
-                satz.lang(-90000 - n);
-                break;
-            case qbArt::Double:
-                satz.zahl(n + 0.5);
-                break;
-            default:
-                ADD_FAILURE() << k.klassenName << " " << version
-                              << ": the fixture writer has no values of the type of " << g.feld;
-            }
-    }
-    return satz;
-}
-
-// The versions whose layouts are looked for: the two literals of the oldest layouts, every month from
-// 1999 through 2012 (every version threshold of today's readers lies among them), a version from the
-// future, and versions that atoi cannot read.
-std::vector<std::string> kandidaten() {
-    std::vector<std::string> versionen = {"10.1999", "01.2000"};
-    for (int jahr = 1999; jahr <= 2012; ++jahr)
-        for (int monat = 1; monat <= 12; ++monat) {
-            char text[8];
-            std::snprintf(text, sizeof text, "%02d.%04d", monat, jahr);
-            versionen.push_back(text);
-        }
-    versionen.insert(versionen.end(), {"12.2030", "xx", ""});
-    return versionen;
-}
-
 struct Satz {
     std::string name;                            // which layout, for messages
     std::string version;                         // of an old layout: the first version found to have it
@@ -377,15 +281,9 @@ std::vector<Satz> findeSaetze(const qbKlasse& k) {
     alle.push_back({std::string("current ") + aktuelleVersion(k), "", aktuell});
 
     Dateieingabe datei;
-    const std::vector<Gelesen> aktuellesLayout = layoutDerVersion(k, aktuelleVersion(k), datei);
-    std::vector<std::vector<Gelesen>> gesehen = {aktuellesLayout};
-    for (const std::string& version : kandidaten()) {
-        std::vector<Gelesen> layout = layoutDerVersion(k, version, datei);
-        if (std::find(gesehen.begin(), gesehen.end(), layout) != gesehen.end()) continue;
-        alle.push_back({"layout of \"" + version + "\"", version,
-                        std::make_shared<AlterSatz>(satzDesLayouts(k, version, layout), k.id)});
-        gesehen.push_back(std::move(layout));
-    }
+    for (AlterLayoutSatz& alt : alteLayoutSaetze(k, aktuelleVersion(k), datei.pfad()))
+        alle.push_back({"layout of \"" + alt.version + "\"", alt.version,
+                        std::make_shared<AlterSatz>(std::move(alt.satz), k.id)});
     return alle;
 }
 
