@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <stdexcept>
 #include <unistd.h>
@@ -38,6 +40,11 @@ void schreibe(const std::string& pfad, std::string_view bytes) {
     if (!f) throw std::runtime_error("cannot write " + pfad);
     if (!bytes.empty()) std::fwrite(bytes.data(), 1, bytes.size(), f);
     std::fclose(f);
+}
+
+std::string lies(const std::filesystem::path& pfad) {
+    std::ifstream ein(pfad, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>());
 }
 
 } // namespace qbfuzz

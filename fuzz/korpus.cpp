@@ -30,11 +30,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string liesDatei(const fs::path& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>());
-}
-
 class Korpus {
 public:
     explicit Korpus(fs::path ordner) : ordner_(std::move(ordner)) {}
@@ -59,7 +54,7 @@ std::string satz(const Form& form, int art, const fs::path& arbeit) {
             RWFile f(pfad.c_str(), "wb");
             form.saveGuts(f);
         }
-        return liesDatei(pfad);
+        return qbfuzz::lies(pfad);
     }
     std::ostringstream aus;
     if (art == 1) {
@@ -68,18 +63,6 @@ std::string satz(const Form& form, int art, const fs::path& arbeit) {
     } else {
         RWpostream s(aus);
         form.saveGuts(s);
-    }
-    return aus.str();
-}
-
-std::string listenBytes(const qbFormularListe& liste, int art) {
-    std::ostringstream aus;
-    if (art == 1) {
-        RWbostream s(aus);
-        s << liste;
-    } else {
-        RWpostream s(aus);
-        s << liste;
     }
     return aus.str();
 }
@@ -191,8 +174,8 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
     werkzeug({"qbformul", "export", (demo / "antrag.qbf").string(), "-o", (arbeit / "liste.xml").string(),
               "--list-only"});
     std::cout.rdbuf(cout);
-    const std::string antrag = liesDatei(demo / "antrag.qbf");
-    const std::string beispiel = liesDatei(quellen / "examples/legacy/alte-layouts.qbf");
+    const std::string antrag = qbfuzz::lies(demo / "antrag.qbf");
+    const std::string beispiel = qbfuzz::lies(quellen / "examples/legacy/alte-layouts.qbf");
     korpus.lege("liste", "demo-0", std::string(1, '\0') + antrag);
     korpus.lege("liste", "alte-layouts-0", std::string(1, '\0') + beispiel);
     for (const auto& [name, datei] : {std::pair{"demo-", &antrag}, std::pair{"alte-layouts-", &beispiel}}) {
@@ -201,12 +184,14 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
         qbFormularListe liste;
         RWFile f(pfad.c_str(), "rb");
         f >> liste;
-        korpus.lege("liste", std::string(name) + "1", std::string(1, '\1') + listenBytes(liste, 1));
-        korpus.lege("liste", std::string(name) + "2", std::string(1, '\2') + listenBytes(liste, 2));
+        korpus.lege("liste", std::string(name) + "1",
+                    std::string(1, '\1') + qbfuzz::speichereListe(1, liste));
+        korpus.lege("liste", std::string(name) + "2",
+                    std::string(1, '\2') + qbfuzz::speichereListe(2, liste));
     }
     korpus.lege("liste", "leer-0", std::string(1, '\0'));
     for (const char* xml : {"antrag.xml", "../liste.xml"}) {
-        const std::string text = liesDatei(demo / xml);
+        const std::string text = qbfuzz::lies(demo / xml);
         korpus.lege("xml", fs::path(xml).filename().string(), text);
         korpus.lege("werkzeug", fs::path(xml).filename().string(), text);
     }

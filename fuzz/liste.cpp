@@ -6,8 +6,6 @@
 #include "rw/rwerr.h"
 #include "rw/rwfile.h"
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace {
@@ -34,15 +32,16 @@ void lies(int art, const std::string& bytes, qbFormularListe& liste) {
     }
 }
 
-std::string speichere(int art, const qbFormularListe& liste) {
+} // namespace
+
+std::string qbfuzz::speichereListe(int art, const qbFormularListe& liste) {
     if (art == 0) {
-        const std::string& pfad = qbfuzz::arbeitsdatei(1);
+        const std::string& pfad = arbeitsdatei(1);
         {
             RWFile f(pfad.c_str(), "wb");
             f << liste;
         }
-        std::ifstream ein(pfad, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>());
+        return lies(pfad);
     }
     std::ostringstream aus;
     if (art == 1) {
@@ -55,14 +54,12 @@ std::string speichere(int art, const qbFormularListe& liste) {
     return aus.str();
 }
 
-} // namespace
-
 int qbFuzzListe(const uint8_t* daten, size_t laenge) {
     if (laenge < 1) return 0;
     const int art = daten[0] % 3;
     qbFormularListe liste;
     lies(art, std::string(qbfuzz::alsText(daten + 1, laenge - 1)), liste);
     qbFormularListe zweite;
-    lies(art, speichere(art, liste), zweite);
+    lies(art, qbfuzz::speichereListe(art, liste), zweite);
     return 0;
 }

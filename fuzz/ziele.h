@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <streambuf>
 #include <string>
 #include <string_view>
@@ -28,12 +29,18 @@ int qbFuzzXml(const uint8_t* daten, size_t laenge);
 // document.
 int qbFuzzWerkzeug(const uint8_t* daten, size_t laenge);
 
+class qbFormularListe;
+
 namespace qbfuzz {
 
 // A file of this process for the input of a reader that needs a path (RWFile, the tool); nummer tells
 // several apart. Lies in /dev/shm where there is one, and goes when the process ends.
 const std::string& arbeitsdatei(int nummer);
 void schreibe(const std::string& pfad, std::string_view bytes);
+std::string lies(const std::filesystem::path& pfad);
+
+// The bytes of a list stored on a stream kind (0 RWFile, 1 binary, 2 portable).
+std::string speichereListe(int art, const qbFormularListe& liste);
 
 // Writes the seed corpora of the four targets into ordner/formular, /liste, /xml and /werkzeug: records
 // of every class on every stream kind, the records of old layouts of the example, the demo application

@@ -34,50 +34,6 @@ std::vector<const qbKlasse*> alleKlassen() {
     return alle;
 }
 
-RWCString zufallsText(std::mt19937& zufall) {
-    std::uniform_int_distribution<int> laenge(0, 24), zeichen(0x20, 0xFF);
-    std::string s(static_cast<size_t>(laenge(zufall)), ' ');
-    for (char& c : s)
-        c = static_cast<char>(zeichen(zufall));
-    return RWCString(s);
-}
-
-void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall) {
-    std::uniform_int_distribution<int> ganz(INT32_MIN, INT32_MAX), byte(0, 255);
-    switch (z.art) {
-    case qbArt::Text:
-        f.*z.mitglied.text = zufallsText(zufall);
-        break;
-    case qbArt::Flag:
-        f.*z.mitglied.flag = static_cast<unsigned char>(byte(zufall));
-        break;
-    case qbArt::Char:
-        f.*z.mitglied.zeichen = static_cast<char>(byte(zufall));
-        break;
-    case qbArt::Bool:
-        f.*z.mitglied.wahrheit = byte(zufall) & 1;
-        break;
-    case qbArt::Int:
-        f.*z.mitglied.ganz = ganz(zufall);
-        break;
-    case qbArt::Enum:
-        f.*z.mitglied.ganz = static_cast<signed char>(byte(zufall));
-        break;
-    case qbArt::Long:
-        f.*z.mitglied.lang = ganz(zufall);
-        break;
-    case qbArt::Double:
-        f.*z.mitglied.zahl = std::uniform_real_distribution<double>(-1e9, 1e9)(zufall);
-        break;
-    case qbArt::Date:
-        (f.*z.mitglied.datum).julian(static_cast<unsigned>(ganz(zufall)));
-        break;
-    case qbArt::Person:
-        (f.*z.mitglied.person).RefGebDat(zufallsText(zufall));
-        break;
-    }
-}
-
 // A form of the class with every field random; a base class gets a current version so that its record
 // is read in the current layout.
 std::unique_ptr<qbFormular> zufallsFormular(const qbKlasse& k, unsigned saat) {

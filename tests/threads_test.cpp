@@ -16,6 +16,7 @@
 #include "rw/pstream.h"
 #include "rw/rwfile.h"
 
+#include "klassen_util.h"
 #include "test_util.h"
 
 #include <cstdint>
@@ -36,54 +37,6 @@ constexpr int kFaeden = 8;
 constexpr int kRunden = 6;
 
 // ---- One thread's list
-
-std::unique_ptr<qbFormular> erzeuge(const qbKlasse& k) {
-    return std::unique_ptr<qbFormular>(static_cast<qbFormular*>(k.erzeuge()));
-}
-
-RWCString zufallsText(std::mt19937& zufall) {
-    std::uniform_int_distribution<int> laenge(0, 24), zeichen(0x20, 0xFF);
-    std::string s(static_cast<size_t>(laenge(zufall)), ' ');
-    for (char& c : s)
-        c = static_cast<char>(zeichen(zufall));
-    return RWCString(s);
-}
-
-void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall) {
-    std::uniform_int_distribution<int> ganz(INT32_MIN, INT32_MAX), byte(0, 255);
-    switch (z.art) {
-    case qbArt::Text:
-        f.*z.mitglied.text = zufallsText(zufall);
-        break;
-    case qbArt::Flag:
-        f.*z.mitglied.flag = static_cast<unsigned char>(byte(zufall));
-        break;
-    case qbArt::Char:
-        f.*z.mitglied.zeichen = static_cast<char>(byte(zufall));
-        break;
-    case qbArt::Bool:
-        f.*z.mitglied.wahrheit = byte(zufall) & 1;
-        break;
-    case qbArt::Int:
-        f.*z.mitglied.ganz = ganz(zufall);
-        break;
-    case qbArt::Enum:
-        f.*z.mitglied.ganz = static_cast<signed char>(byte(zufall));
-        break;
-    case qbArt::Long:
-        f.*z.mitglied.lang = ganz(zufall);
-        break;
-    case qbArt::Double:
-        f.*z.mitglied.zahl = std::uniform_real_distribution<double>(-1e9, 1e9)(zufall);
-        break;
-    case qbArt::Date:
-        (f.*z.mitglied.datum).julian(static_cast<unsigned>(ganz(zufall)));
-        break;
-    case qbArt::Person:
-        (f.*z.mitglied.person).RefGebDat(zufallsText(zufall));
-        break;
-    }
-}
 
 // Every field of the class and of its bases but the header random: the header's number and person
 // decide where the list puts a form.
