@@ -8,6 +8,7 @@
 // places each, every place taken and filled by one atomic operation - safe between threads, nothing to
 // clean up per thread, and at most kFaecher * kPlaetze blocks held (for today's classes some 100 kB).
 #include "core/qbFormular.h"
+#include "core/qbSanitizer.h"
 
 #include <atomic>
 #include <cstddef>
@@ -15,7 +16,7 @@
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
+#if QB_MIT_ADDRESS_SANITIZER
 constexpr bool kZwischenspeicher = false; // the sanitizer must see every form freed
 #else
 constexpr bool kZwischenspeicher = true;

@@ -3,6 +3,7 @@
 #include "core/qbFormular.h"
 #include "core/qbKlassen.h"
 #include "core/qbLeseBeobachter.h"
+#include "core/qbSanitizer.h"
 #include "health/qbFormularAllgGesu.h"
 #include "qballg/CQBXMLdata.h"
 #include "rw/bstream.h"
@@ -318,7 +319,7 @@ TEST_P(JedeKlasse, NewObjectAfterDeletedFilledFormsOfEveryClassStartsAsNew) {
 }
 
 TEST(Formularspeicher, BlocksOfDeletedFormsServeTheNextFormsOfTheSameSize) {
-#if defined(__SANITIZE_ADDRESS__)
+#if QB_MIT_ADDRESS_SANITIZER
     GTEST_SKIP() << "under the address sanitizer every form is freed at once";
 #else
     for (const qbKlasse& k : qbKlassen) {
