@@ -7,8 +7,13 @@
 // overflows, use after free and leaks are found as before (only a mismatch of new[] and delete is not).
 #include "allokationen.h"
 
+#include "core/qbSanitizer.h"
+
 #include <cstdlib>
 #include <new>
+#if QB_MIT_THREAD_SANITIZER
+#include <sanitizer/allocator_interface.h>
+#endif
 
 namespace {
 
@@ -33,6 +38,17 @@ void zaehleAllokation(std::size_t n) {
 
 } // namespace qbtest
 
+#if QB_MIT_THREAD_SANITIZER
+// ThreadSanitizer's runtime defines operator new and delete itself, and a program may not replace them; it
+// reports every allocation to a hook instead, operator new's as well as malloc's.
+namespace {
+void gemeldet(const volatile void*, std::size_t n) {
+    if (aktuellerZaehler) qbtest::zaehleAllokation(n);
+}
+void freigegeben(const volatile void*) {}
+[[maybe_unused]] const int angemeldet = __sanitizer_install_malloc_and_free_hooks(&gemeldet, &freigegeben);
+} // namespace
+#else
 void* operator new(std::size_t n) {
     if (aktuellerZaehler) qbtest::zaehleAllokation(n);
     for (;;) {
@@ -48,3 +64,4 @@ void operator delete(void* p) noexcept { std::free(p); }
 void operator delete[](void* p) noexcept { std::free(p); }
 void operator delete(void* p, std::size_t) noexcept { std::free(p); }
 void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
+#endif
