@@ -45,28 +45,6 @@ private:
     int anzahl_ = 0;
 };
 
-// The record of a form on a stream kind (0 RWFile, 1 binary, 2 portable), as saveGuts writes it.
-template <class Form>
-std::string satz(const Form& form, int art, const fs::path& arbeit) {
-    if (art == 0) {
-        const fs::path pfad = arbeit / "satz";
-        {
-            RWFile f(pfad.c_str(), "wb");
-            form.saveGuts(f);
-        }
-        return qbfuzz::lies(pfad);
-    }
-    std::ostringstream aus;
-    if (art == 1) {
-        RWbostream s(aus);
-        form.saveGuts(s);
-    } else {
-        RWpostream s(aus);
-        form.saveGuts(s);
-    }
-    return aus.str();
-}
-
 // Every field of the form set to a value other than its default.
 void fuelle(qbFormular& form, const qbFeldTabelle& felder) {
     for (const qbFeld& z : felder) {
@@ -130,9 +108,9 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
         for (int art = 0; art < 3; ++art) {
             const std::string kopf{static_cast<char>(i), static_cast<char>(art)};
             korpus.lege("formular", std::string(k.klassenName) + "-leer-" + std::to_string(art),
-                        kopf + satz(*leer, art, arbeit));
+                        kopf + qbfuzz::aufStrom(art, [&](auto& s) { leer->saveGuts(s); }));
             korpus.lege("formular", std::string(k.klassenName) + "-voll-" + std::to_string(art),
-                        kopf + satz(*voll, art, arbeit));
+                        kopf + qbfuzz::aufStrom(art, [&](auto& s) { voll->saveGuts(s); }));
         }
     }
     // Every old layout of every class, and the records of the example of old layouts.
@@ -145,21 +123,7 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
     for (const auto& [id, alt] : alteSaetze) {
         ++nummer;
         for (int art = 0; art < 3; ++art) {
-            std::string bytes;
-            if (art == 0) {
-                const qbtest::Bytes b = alt.bytes();
-                bytes.assign(b.begin(), b.end());
-            } else {
-                std::ostringstream aus;
-                if (art == 1) {
-                    RWbostream s(aus);
-                    alt.schreibe(s);
-                } else {
-                    RWpostream s(aus);
-                    alt.schreibe(s);
-                }
-                bytes = aus.str();
-            }
+            const std::string bytes = qbfuzz::aufStrom(art, [&](auto& s) { alt.schreibe(s); });
             const std::string kopf{static_cast<char>(klassenIndex(id)), static_cast<char>(art)};
             korpus.lege("formular", "alt-" + std::to_string(nummer) + "-" + std::to_string(art),
                         kopf + bytes);
@@ -185,9 +149,9 @@ int qbfuzz::erzeugeKorpus(const std::string& ordner, const std::string& quellord
         RWFile f(pfad.c_str(), "rb");
         f >> liste;
         korpus.lege("liste", std::string(name) + "1",
-                    std::string(1, '\1') + qbfuzz::speichereListe(1, liste));
+                    std::string(1, '\1') + qbfuzz::aufStrom(1, [&](auto& s) { s << liste; }));
         korpus.lege("liste", std::string(name) + "2",
-                    std::string(1, '\2') + qbfuzz::speichereListe(2, liste));
+                    std::string(1, '\2') + qbfuzz::aufStrom(2, [&](auto& s) { s << liste; }));
     }
     korpus.lege("liste", "leer-0", std::string(1, '\0'));
     for (const char* xml : {"antrag.xml", "../liste.xml"}) {

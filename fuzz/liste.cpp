@@ -34,32 +34,12 @@ void lies(int art, const std::string& bytes, qbFormularListe& liste) {
 
 } // namespace
 
-std::string qbfuzz::speichereListe(int art, const qbFormularListe& liste) {
-    if (art == 0) {
-        const std::string& pfad = arbeitsdatei(1);
-        {
-            RWFile f(pfad.c_str(), "wb");
-            f << liste;
-        }
-        return lies(pfad);
-    }
-    std::ostringstream aus;
-    if (art == 1) {
-        RWbostream s(aus);
-        s << liste;
-    } else {
-        RWpostream s(aus);
-        s << liste;
-    }
-    return aus.str();
-}
-
 int qbFuzzListe(const uint8_t* daten, size_t laenge) {
     if (laenge < 1) return 0;
     const int art = daten[0] % 3;
     qbFormularListe liste;
     lies(art, std::string(qbfuzz::alsText(daten + 1, laenge - 1)), liste);
     qbFormularListe zweite;
-    lies(art, qbfuzz::speichereListe(art, liste), zweite);
+    lies(art, qbfuzz::aufStrom(art, [&](auto& s) { s << liste; }), zweite);
     return 0;
 }

@@ -4,10 +4,15 @@
 // them in the fuzz build (fuzz/libfuzzer.cpp); the normal suite runs them over the kept inputs.
 #pragma once
 
+#include "rw/bstream.h"
+#include "rw/pstream.h"
+#include "rw/rwfile.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <sstream>
 #include <streambuf>
 #include <string>
 #include <string_view>
@@ -29,8 +34,6 @@ int qbFuzzXml(const uint8_t* daten, size_t laenge);
 // document.
 int qbFuzzWerkzeug(const uint8_t* daten, size_t laenge);
 
-class qbFormularListe;
-
 namespace qbfuzz {
 
 // A file of this process for the input of a reader that needs a path (RWFile, the tool); nummer tells
@@ -39,8 +42,28 @@ const std::string& arbeitsdatei(int nummer);
 void schreibe(const std::string& pfad, std::string_view bytes);
 std::string lies(const std::filesystem::path& pfad);
 
-// The bytes of a list stored on a stream kind (0 RWFile, 1 binary, 2 portable).
-std::string speichereListe(int art, const qbFormularListe& liste);
+// What schreibe(stream) writes on a stream kind: 0 RWFile (through a file of this process), 1 RWbostream,
+// 2 RWpostream.
+template <class Schreiber>
+std::string aufStrom(int art, Schreiber schreibe) {
+    if (art == 0) {
+        const std::string& pfad = arbeitsdatei(1);
+        {
+            RWFile f(pfad.c_str(), "wb");
+            schreibe(f);
+        }
+        return lies(pfad);
+    }
+    std::ostringstream aus;
+    if (art == 1) {
+        RWbostream s(aus);
+        schreibe(s);
+    } else {
+        RWpostream s(aus);
+        schreibe(s);
+    }
+    return aus.str();
+}
 
 // Writes the seed corpora of the four targets into ordner/formular, /liste, /xml and /werkzeug: records
 // of every class on every stream kind, the records of old layouts of the example, the demo application

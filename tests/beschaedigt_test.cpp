@@ -339,6 +339,20 @@ struct Schranke {
     }
 };
 
+// Runs a read and keeps what it threw: a vendor error's text in fehler, any other exception in fremd.
+template <class Ergebnis, class Lesen>
+void fangeAb(Ergebnis& e, Lesen lesen) {
+    try {
+        lesen();
+    } catch (const RWxmsg& x) {
+        e.fehler = x.why();
+    } catch (const std::exception& x) {
+        e.fremd = x.what();
+    } catch (...) {
+        e.fremd = "an exception of unknown type";
+    }
+}
+
 struct Ergebnis {
     std::unique_ptr<RWCollectable> objekt;
     bool gut = false;
@@ -373,16 +387,10 @@ private:
         Ergebnis e;
         {
             AllokationsZaehler zaehler;
-            try {
+            fangeAb(e, [&] {
                 RWUseReadTable liste;
                 e.objekt.reset(RWCollectable::recursiveRestoreFrom(s));
-            } catch (const RWxmsg& x) {
-                e.fehler = x.why();
-            } catch (const std::exception& x) {
-                e.fremd = x.what();
-            } catch (...) {
-                e.fremd = "an exception of unknown type";
-            }
+            });
             e.allokationen = zaehler.stand();
         }
         e.gut = gut(s);
@@ -670,18 +678,12 @@ private:
         if (!zeiger) e.liste = std::make_unique<qbFormularListe>();
         {
             AllokationsZaehler zaehler;
-            try {
+            fangeAb(e, [&] {
                 if (zeiger)
                     s >> neu;
                 else
                     s >> *e.liste;
-            } catch (const RWxmsg& x) {
-                e.fehler = x.why();
-            } catch (const std::exception& x) {
-                e.fremd = x.what();
-            } catch (...) {
-                e.fremd = "an exception of unknown type";
-            }
+            });
             e.allokationen = zaehler.stand();
         }
         if (zeiger) e.liste.reset(neu); // the caller's, also when an error was raised
