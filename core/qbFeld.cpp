@@ -277,7 +277,8 @@ void inFolge(const qbFeldTabelle& tabelle, const char* const* folge, Tun tun) {
     for (; *folge; ++folge) {
         const qbFeld* z = tabelle.suche(*folge);
         if (!z) {
-            std::fprintf(stderr, "qbformul: %s has no field %s for its XML order\n", tabelle.klasse(), *folge);
+            std::fprintf(stderr, "qbformul: %s has no field %s for its XML order\n", tabelle.klasse(),
+                         *folge);
             std::abort();
         }
         tun(*z);

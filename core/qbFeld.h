@@ -111,6 +111,8 @@ struct qbFeld {
             f.standardZahl = static_cast<double>(wert);
         });
     }
+    // An int literal, 0 included (which would otherwise be ambiguous with the text overload).
+    constexpr qbFeld standard(int wert) const { return standard(static_cast<long>(wert)); }
     constexpr qbFeld standard(const char* text) const {
         return mit([&](qbFeld& f) { f.standardText = text; });
     }

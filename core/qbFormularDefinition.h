@@ -54,7 +54,7 @@
     template <class Strom>                                                                                   \
     void Klasse::liesEigene(Strom& strom) {                                                                  \
         using Selbst = Klasse;                                                                               \
-        /* The stored version's key, worked out at the first row that depends on it. */                     \
+        /* The stored version's key, worked out at the first row that depends on it. */                      \
         int gemerkt = 0;                                                                                     \
         [[maybe_unused]] auto schluessel = [&] {                                                             \
             return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
