@@ -221,7 +221,18 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
     if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) {
-        b->layout(klasse_, "aktuelle Tabelle");
+        // The layout is the current table; rows that came with a later version than the stored one are
+        // named, so that the branch a record took shows. (A table that reads Version itself, the header's,
+        // cannot know them yet.)
+        std::string name = "aktuelle Tabelle";
+        const char* trenner = " ohne ";
+        const bool versionBekannt = !suche("Version");
+        for (const qbFeld& z : *this)
+            if (versionBekannt && !gehoertZumLayout(z, form)) {
+                name = name + trenner + z.name;
+                trenner = ", ";
+            }
+        b->layout(klasse_, name.c_str());
         for (const qbFeld& z : *this)
             if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
         return;
