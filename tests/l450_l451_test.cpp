@@ -3,6 +3,7 @@
 // its XML order and its size constant two below the record.
 #include "sport/qbFormularL450.h"
 #include "sport/qbFormularL451.h"
+#include "core/qbFormularListe.h"
 
 #include "form_test_util.h"
 #include "legacy_fixture.h"
@@ -45,7 +46,7 @@ TEST(L450, BinaryStoreSizeStaysBelowTheRecordByTheLengthOfMitgliedBergsportverei
     EXPECT_EQ(f.binaryStoreSize() + 4 + 8, gespeichert(f).size());
 }
 
-TEST(L450, RisikoMitVersichernJNHasACapitalV) {
+TEST(L450, RisikoMitVersichernJNHasACapitalV_Quirk) {
     qbFormularL450 f;
     f.RefRisikoMitVersichernJN(1);
     f.RefKletternGrad(7);
@@ -55,6 +56,23 @@ TEST(L450, RisikoMitVersichernJNHasACapitalV) {
     EXPECT_TRUE(knoten.Listvalue("RisikoMitVersichernJN", risiko));
     EXPECT_EQ(risiko, 1);
     EXPECT_FALSE(knoten.Listvalue("RisikoMitversichernJN", risiko));
+}
+
+// A replacing piece: a second L450 of the same person takes the place of the first.
+TEST(L450, TwoNeuesFormularWithAnL450OfTheSamePersonGiveOneElement) {
+    qbFormularListe liste;
+    qbFormularL450 erste, zweite, andere;
+    erste.RefBeginn("1985");
+    zweite.RefBeginn("1990");
+    andere.RefPersonenKennung("VP2");
+    liste.neuesFormular(erste);
+    liste.neuesFormular(andere);
+    liste.neuesFormular(zweite);
+    ASSERT_EQ(liste.AnzahlFormulare(), 2u);
+    qbFormularL450 f;
+    EXPECT_EQ(liste.liefereFormular("L450", f, 0), 1u);
+    EXPECT_EQ(f.RefBeginn().std(), "1990");
+    EXPECT_EQ(liste.liefereFormularAnPos(0)->RefPersonenKennung().std(), "VP2");
 }
 
 // ---- Diving
@@ -114,7 +132,7 @@ TEST(L451, DefaultHasTheFourTauchlehrerFlagsAt0AndEveryOtherFlagAt0xff) {
     EXPECT_EQ(f.RefStunden3(), 0);
 }
 
-TEST(L451, XmlHasApnoetauchenJNBetweenSchnorchelnJNAndSporttauchenJNBothWays) {
+TEST(L451, XmlHasApnoetauchenJNBetweenSchnorchelnJNAndSporttauchenJNBothWays_Quirk) {
     qbFormularL451 f;
     fuelleAlle(f, {&l451()});
     CQBXMLdata knoten("L451");

@@ -62,7 +62,7 @@ TEST(L453, AndereRennen2BisherIsSetAndStoredWhileAndereRennenJNStaysUnanswered) 
 }
 
 // The one setter of the family that takes its text by value; L453's takes a const reference.
-TEST(L452, RefTypTakesItsTextByValueUnlikeL453) {
+TEST(L452, RefTypTakesItsTextByValueUnlikeL453_Quirk) {
     void (qbFormularL452::*setzeL452)(RWCString) = &qbFormularL452::RefTyp;
     void (qbFormularL453::*setzeL453)(const RWCString&) = &qbFormularL453::RefTyp;
     qbFormularL452 a;
@@ -73,7 +73,7 @@ TEST(L452, RefTypTakesItsTextByValueUnlikeL453) {
     EXPECT_EQ(b.RefTyp().std(), "RC 8");
 }
 
-TEST(L452, HillClimbHasTheFlagBergrennenJNAndTheBlockBergstrecken) {
+TEST(L452, HillClimbHasTheFlagBergrennenJNAndTheBlockBergstrecken_Quirk) {
     qbFormularL452 f;
     f.RefBergrennenJN(1);
     f.RefBergstreckenBisher(2);
@@ -93,7 +93,7 @@ TEST(L452, HillClimbHasTheFlagBergrennenJNAndTheBlockBergstrecken) {
     EXPECT_FALSE(knoten.Listvalue("BergrennenBisher", bisher));
 }
 
-TEST(L453, HillClimbIsBergrennenThroughoutAndRisikoMitversichernJNHasASmallV) {
+TEST(L453, HillClimbIsBergrennenThroughoutAndRisikoMitversichernJNHasASmallV_Quirk) {
     qbFormularL453 f;
     f.RefBergrennenBisher(2);
     f.RefRisikoMitversichernJN(0);

@@ -105,7 +105,7 @@ TEST(L454, RecordStoredAs11_2001IsReadWithTheLayoutOf08_2008) {
     }
 }
 
-TEST(L454, TheFourIntSettersTakeAConstIntReference) {
+TEST(L454, TheFourIntSettersTakeAConstIntReference_Quirk) {
     void (qbFormularL454::*setze)(const int&) = &qbFormularL454::RefSportanteilProzent;
     qbFormularL454 f;
     (f.*setze)(60);

@@ -61,4 +61,14 @@ TEST_F(ToolSport, ExportHelpNamesTheFlyingSportsKeyThatIsNotReadBack) {
     EXPECT_TRUE(enthaelt(lauf.aus, "written, not read back: SegelflugzeugJN of qbFormularL441")) << lauf.aus;
 }
 
+TEST_F(ToolSport, CatalogMarksEverySportAndStayAbroadPieceWithItsClass) {
+    const Lauf lauf = qbformul({"catalog"});
+    ASSERT_EQ(lauf.code, 0) << lauf.err;
+    for (const char* stueck : {"L036", "L441", "L450", "L451", "L452", "L453", "L454", "X278"})
+        EXPECT_TRUE(std::regex_search(
+            lauf.aus, std::regex(std::string("\n") + stueck + " .* qbFormular" + stueck + "\n")))
+            << stueck << "\n"
+            << lauf.aus;
+}
+
 } // namespace
