@@ -7,6 +7,8 @@
 #include "rw/vstream.h"
 
 #include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -219,7 +221,18 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
     if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) {
-        b->layout(klasse_, "aktuelle Tabelle");
+        // The layout is the current table; rows that came with a later version than the stored one are
+        // named, so that the branch a record took shows. (A table that reads Version itself, the header's,
+        // cannot know them yet.)
+        std::string name = "aktuelle Tabelle";
+        const char* trenner = " ohne ";
+        const bool versionBekannt = !suche("Version");
+        for (const qbFeld& z : *this)
+            if (versionBekannt && !gehoertZumLayout(z, form)) {
+                name = name + trenner + z.name;
+                trenner = ", ";
+            }
+        b->layout(klasse_, name.c_str());
         for (const qbFeld& z : *this)
             if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
         return;
@@ -239,6 +252,7 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     for (const qbFeld& z : *this) {
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
+        summe += static_cast<RWspace>(z.groessenAbweichung); // unsigned arithmetic: a shortfall subtracts
     }
     return summe;
 }
@@ -249,20 +263,55 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
 template <class T>
 constexpr bool hatXmlWert = !std::is_same_v<T, char> && !std::is_same_v<T, qbPerson>;
 
+namespace {
+
+void xmlSchreibeZeile(const qbFeld& z, const qbFormular& form, CQBXMLdata& knoten) {
+    if (z.xmlSchreibKey)
+        mitMitglied(z, [&](auto m) {
+            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                knoten.List(CQBXMLdata(z.xmlSchreibKey, form.*m));
+        });
+}
+
+void xmlLiesZeile(const qbFeld& z, qbFormular& form, const CQBXMLdata& knoten) {
+    if (z.xmlLeseKey)
+        mitMitglied(z, [&](auto m) {
+            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                knoten.Listvalue(z.xmlLeseKey, form.*m);
+        });
+}
+
+// The row of each name of an order, in that order; a name the table does not hold is a fault of the form's
+// file and stops the program rather than leave a field out of the tree unnoticed.
+template <class Tun>
+void inFolge(const qbFeldTabelle& tabelle, const char* const* folge, Tun tun) {
+    for (; *folge; ++folge) {
+        const qbFeld* z = tabelle.suche(*folge);
+        if (!z) {
+            std::fprintf(stderr, "qbformul: %s has no field %s for its XML order\n", tabelle.klasse(),
+                         *folge);
+            std::abort();
+        }
+        tun(*z);
+    }
+}
+
+} // namespace
+
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        if (z.xmlSchreibKey)
-            mitMitglied(z, [&](auto m) {
-                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
-                    knoten.List(CQBXMLdata(z.xmlSchreibKey, form.*m));
-            });
+        xmlSchreibeZeile(z, form, knoten);
 }
 
 void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        if (z.xmlLeseKey)
-            mitMitglied(z, [&](auto m) {
-                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
-                    knoten.Listvalue(z.xmlLeseKey, form.*m);
-            });
+        xmlLiesZeile(z, form, knoten);
+}
+
+void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const {
+    inFolge(*this, folge, [&](const qbFeld& z) { xmlSchreibeZeile(z, form, knoten); });
+}
+
+void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const {
+    inFolge(*this, folge, [&](const qbFeld& z) { xmlLiesZeile(z, form, knoten); });
 }

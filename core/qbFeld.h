@@ -76,6 +76,7 @@ struct qbFeld {
     const char* xmlSchreibKey; // null: the field does not go into XML
     const char* xmlLeseKey;    // null: the field is not read from XML
     bool laengeInGroesse;      // a Text's characters count in binaryStoreSize
+    int groessenAbweichung;    // bytes binaryStoreSize counts for the row beyond (or below) what it takes
     long standardGanz;         // default of Flag, Char, Bool, Int, Long, Enum
     double standardZahl;       // default of Double
     const char* standardText;  // default of Text
@@ -110,6 +111,8 @@ struct qbFeld {
             f.standardZahl = static_cast<double>(wert);
         });
     }
+    // An int literal, 0 included (which would otherwise be ambiguous with the text overload).
+    constexpr qbFeld standard(int wert) const { return standard(static_cast<long>(wert)); }
     constexpr qbFeld standard(const char* text) const {
         return mit([&](qbFeld& f) { f.standardText = text; });
     }
@@ -121,6 +124,11 @@ struct qbFeld {
     }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
+    }
+    // binaryStoreSize counts this many bytes more (fewer, if negative) than the stream holds: a class whose
+    // size constant is miscounted keeps that figure, and its surplus or shortfall stands on one row.
+    constexpr qbFeld groesseAbweichend(int bytes) const {
+        return mit([&](qbFeld& f) { f.groessenAbweichung = bytes; });
     }
     bool gehoertZumLayout(int versionsSchluessel) const {
         return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
@@ -170,7 +178,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, 0, 0, 0.0, "", 0, nullptr};
     }
 };
 
@@ -201,11 +209,17 @@ public:
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWvistream& s);
 
     // Bytes the rows take on RWFile: 4 per Text plus its characters (unless the row leaves them out),
-    // 1 per Flag, Char, Bool and Enum, 4 per Int, Long and Date, 8 per Double.
+    // 1 per Flag, Char, Bool and Enum, 4 per Int, Long and Date, 8 per Double; plus the rows' deviations
+    // (groesseAbweichend).
     RWspace groesse(const qbFormular& form) const;
 
+    // The rows' values under their keys, in table order.
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
+    // The same in an order of the form's own, which may name a field more than once: a list of field
+    // names that ends with a null.
+    void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const;
+    void xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const;
 
 private:
     const char* klasse_;

@@ -54,7 +54,7 @@
     template <class Strom>                                                                                   \
     void Klasse::liesEigene(Strom& strom) {                                                                  \
         using Selbst = Klasse;                                                                               \
-        /* The stored version's key, worked out at the first row that depends on it. */                     \
+        /* The stored version's key, worked out at the first row that depends on it. */                      \
         int gemerkt = 0;                                                                                     \
         [[maybe_unused]] auto schluessel = [&] {                                                             \
             return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
@@ -146,6 +146,24 @@
         knoten.Typ(klassenName());                                                                           \
     }
 
+// The same for a form whose XML keeps an order of its own: Folge names the fields in the tree's order, a
+// field as often as the tree holds it, and ends with a null. Both directions go by it.
+#define QB_FORMULAR_XML_IN_FOLGE(Klasse, Folge)                                                              \
+    void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                       \
+        knoten.clear(klassenName());                                                                         \
+        CQBXMLdata kopf("");                                                                                 \
+        qbFormular::XMLgetDat(kopf);                                                                         \
+        knoten.add(std::move(kopf));                                                                         \
+        felder().xmlSchreibe(*this, knoten, Folge);                                                          \
+    }                                                                                                        \
+    void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                             \
+        if (knoten.Typ() != klassenName()) return;                                                           \
+        felder().xmlLies(*this, knoten, Folge);                                                              \
+        knoten.Typ(Basisklasse::klassenName());                                                              \
+        qbFormular::XMLputDat(knoten);                                                                       \
+        knoten.Typ(klassenName());                                                                           \
+    }
+
 // A fresh object of the class, assigned: every field and the whole header back to the class's defaults.
 #define QB_FORMULAR_LOESCHE(Klasse)                                                                          \
     void Klasse::loesche() {                                                                                 \
@@ -161,4 +179,14 @@
     QB_FORMULAR_LADEN(Klasse)                                                                                \
     QB_FORMULAR_GROESSE(Klasse)                                                                              \
     QB_FORMULAR_XML(Klasse)                                                                                  \
+    QB_FORMULAR_LOESCHE(Klasse)
+
+// Everything by the family rule except XML, which the form writes in an order of its own.
+#define QB_FORMULAR_ROUTINE_XML_IN_FOLGE(Klasse, Felder, Folge)                                              \
+    QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                                   \
+    QB_FORMULAR_KONSTRUKTOR(Klasse)                                                                          \
+    QB_FORMULAR_SPEICHERN(Klasse)                                                                            \
+    QB_FORMULAR_LADEN(Klasse)                                                                                \
+    QB_FORMULAR_GROESSE(Klasse)                                                                              \
+    QB_FORMULAR_XML_IN_FOLGE(Klasse, Folge)                                                                  \
     QB_FORMULAR_LOESCHE(Klasse)

@@ -29,6 +29,7 @@ struct qbSuchregel {
 extern const qbSuchregel qbSucheOhne;       // a base class: the list knows no piece of it
 extern const qbSuchregel qbSuchePerson;     // a default probe with the caller's person
 extern const qbSuchregel qbSucheGesundheit; // Krankheit and AntwortZuFrage from the extras, with person
+extern const qbSuchregel qbSucheAuslandsaufenthalt; // L036: Land and, through atoi, Index from the extras
 extern const qbSuchregel
     qbSucheOhnePersonBeimLiefern;             // liefereFormular ignores the person (GN056, GR396, L095)
 extern const qbSuchregel qbSucheOhnePerson;   // the class's own person in every search (L300, L300_2)

@@ -4,7 +4,6 @@
 #include "core/qbKlassen.h"
 #include "core/qbLeseBeobachter.h"
 #include "core/qbSanitizer.h"
-#include "health/qbFormularAllgGesu.h"
 #include "qballg/CQBXMLdata.h"
 #include "rw/bstream.h"
 #include "rw/factory.h"
@@ -63,12 +62,15 @@ size_t gespeicherteBytes(const qbFormular& form) {
     return readBytes(tmp.path()).size();
 }
 
-// The figure binaryStoreSize must give: the bytes written, except where the class leaves something out
-// on purpose.
-size_t erwarteteGroesse(const qbFormular& form, size_t bytes) {
-    // The health family leaves the characters of AntwortZuFrage out of the sum.
-    if (const auto* gesu = dynamic_cast<const qbFormularAllgGesu*>(&form))
-        return bytes - gesu->RefAntwortZuFrage().length();
+// The figure binaryStoreSize must give: the bytes written, less the characters of the texts whose rows leave
+// them out of the sum (AntwortZuFrage of the health family), plus what rows declare as a miscounted size
+// constant kept from the original.
+size_t erwarteteGroesse(const qbKlasse& k, const qbFormular& form, size_t bytes) {
+    for (const qbFeldTabelle* t : kette(k))
+        for (const qbFeld& z : *t) {
+            if (z.art == qbArt::Text && !z.laengeInGroesse) bytes -= (form.*z.mitglied.text).length();
+            bytes += static_cast<size_t>(z.groessenAbweichung);
+        }
     return bytes;
 }
 
@@ -106,10 +108,10 @@ TEST_P(JedeKlasse, FactoryCreatesTheClassWithTheHeaderOfItsRow) {
 TEST_P(JedeKlasse, BinaryStoreSizeCountsTheBytesSaveGutsWrites) {
     const qbKlasse& k = *GetParam();
     auto leer = erzeuge(k);
-    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(*leer, gespeicherteBytes(*leer)));
+    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(k, *leer, gespeicherteBytes(*leer)));
     for (unsigned saat = 1; saat <= 5; ++saat) {
         auto form = zufallsFormular(k, saat);
-        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(*form, gespeicherteBytes(*form)))
+        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(k, *form, gespeicherteBytes(*form)))
             << "seed " << saat;
     }
 }
@@ -176,8 +178,10 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
     for (size_t ebene = 0; ebene < tabellen.size(); ++ebene) {
         const bool kopf = ebene + 1 == tabellen.size();
         for (const qbFeld& z : *tabellen[ebene]) {
-            const bool gelesenErwartet =
-                z.xmlLeseKey && z.xmlSchreibKey && (kopf ? kopfWirdGelesen : ebene == 0);
+            // A field written under one key and read under another does not come back.
+            const bool gelesenErwartet = z.xmlLeseKey && z.xmlSchreibKey &&
+                                         std::string(z.xmlLeseKey) == z.xmlSchreibKey &&
+                                         (kopf ? kopfWirdGelesen : ebene == 0);
             const qbFormular& erwartet = gelesenErwartet ? *form : *frisch;
             EXPECT_EQ(feldAlsText(z, *gelesen), feldAlsText(z, erwartet)) << k.klassenName << "::" << z.name;
         }

@@ -479,10 +479,19 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
     // "01.1999" the keys below 200012 (a Flag, an Int and a Text thrown away), "12.2000" the keys up to
     // 200110, "11.2001" the key 200111 (Seitenanzahl and the change of workplace: the current layout of
     // the base, L144 and L147), "12.2001" the later keys without the change of workplace, and for L145
-    // "05.2002" the keys before 200210.
+    // "05.2002" the keys before 200210. The diving form (L451) reads ApnoetauchenJN from 200504 on, so
+    // "11.2001" stands for the keys from 200111 to 200503.
     std::map<std::string, std::vector<std::string>> erwartet = {
         {"qbFormular", {"10.1999"}},
         {"qbFormularL440", {"10.1999"}},
+        {"qbFormularL441", {"10.1999"}},
+        {"qbFormularL450", {"10.1999"}},
+        {"qbFormularL451", {"10.1999", "11.2001"}},
+        {"qbFormularL452", {"10.1999"}},
+        {"qbFormularL453", {"10.1999"}},
+        {"qbFormularL454", {"10.1999"}},
+        {"qbFormularX278", {"10.1999"}},
+        {"qbFormularL036", {"10.1999"}},
         {"qbFormularAllgGesu", {"10.1999", "01.1999", "12.2000", "12.2001"}},
         {"qbFormularL144", {"10.1999", "01.1999", "12.2000", "12.2001"}},
         {"qbFormularL147", {"10.1999", "01.1999", "12.2000", "12.2001"}},

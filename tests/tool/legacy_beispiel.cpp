@@ -2,11 +2,20 @@
 
 #include "legacy_fixture.h"
 
+#include "core/qbKlassen.h"
 #include "health/qbFormularL145.h"
 #include "health/qbFormularL146.h"
 #include "health/qbFormularL147.h"
 #include "rw/dlistcol.h"
+#include "sport/qbFormularL036.h"
 #include "sport/qbFormularL440.h"
+#include "sport/qbFormularL441.h"
+#include "sport/qbFormularL450.h"
+#include "sport/qbFormularL451.h"
+#include "sport/qbFormularL452.h"
+#include "sport/qbFormularL453.h"
+#include "sport/qbFormularL454.h"
+#include "sport/qbFormularX278.h"
 
 #include <utility>
 #include <vector>
@@ -185,14 +194,286 @@ AltSatz l440Von2005() {
         .text(""); // WannWelcheFolgen
 }
 
+// L441 of 11.2001: stored long before 04.2010 and read with today's one layout.
+AltSatz l441Von2001() {
+    return AltSatz::kopf("11.2001", "L441", "Erkl\xE4rung Flugsport", 1, "VP1")
+        .flag(1)
+        .flags(11, 0) // FlugzeugJN .. SonstigeLuftfahrzeug2JN
+        .flag(1)
+        .flags(14, 0)  // PPLaJN .. LuftfahrtscheinJN
+        .texte(12, "") // SonstigeLuftfahrzeug1 .. ArtDerAuflagen
+        .flag(1)
+        .flags(20, 0)       // SichtflugJN .. FlugunfallJN
+        .texte(2, "")       // SonstigeBerechtigung1, SonstigeBerechtigung2
+        .text("Cessna 172") // FlugLuftsportgeraet
+        .text("Motorflug")  // FlugLuftsportdisziplin
+        .texte(3, "")       // ArtNameVeranstaltung, Veranstalter, FluglandKontinent
+        .text("");          // NaehereAngabenUnfall
+}
+
+// L450 of 10.1999: the header without Seitenanzahl, then the one layout of the mountain form.
+AltSatz l450Von1999() {
+    return AltSatz::kopf("10.1999", "L450", "Erkl\xE4rung Bergsport", 1, "VP2")
+        .text("1985") // Beginn
+        .flag(1)
+        .flag(0) // PrivatJN, BeruflichJN
+        .flag(1)
+        .text("1990")
+        .text("Grundkurs Fels") // MitgliedBergsportvereinJN, ..Seit, Ausbildung
+        .flag(0)
+        .text("") // BergunfaelleJN, Bergunfaelle
+        .flag(1)
+        .ganz(40) // BergwandernJN, BergwandernStunden
+        .flag(0)
+        .ganz(0) // Hochtouren
+        .flag(1)
+        .ganz(25)
+        .ganz(6) // KletternJN, KletternStunden, KletternGrad
+        .flag(0)
+        .ganz(0)
+        .flag(0)
+        .ganz(0)
+        .flag(0)
+        .ganz(0)
+        .flag(0)
+        .ganz(0)
+        .flag(0)
+        .ganz(0)
+        .flag(0)
+        .ganz(0) // Eisklettern .. Gebaeudeklettern
+        .flag(0)
+        .ganz(0)
+        .text("") // AndereSportarten
+        .flag(0)
+        .text("") // Trekking
+        .flag(0)
+        .texte(2, "")   // Expeditionen
+        .flags(6, 0xff) // EuropaJN .. AustralienJN
+        .text("")       // Hoehe
+        .flags(7, 0)    // AlleingaengerJN .. HueftgurtJN
+        .flag(1);       // RisikoMitVersichernJN
+}
+
+// L451 of 11.2001: before ApnoetauchenJN came with 04.2005; the record ends with the Tauchlehrer Flags.
+AltSatz l451Von2001() {
+    return AltSatz::kopf("11.2001", "L451", "Erkl\xE4rung Tauchsport", 2, "VP1")
+        .flag(1)
+        .flag(1)
+        .flags(3, 0) // TauchscheinJN, TauglichJN, NichtTauglichJN .. KeineUntersuchungJN
+        .flag(0)
+        .flag(1)
+        .flags(5, 0) // SchnorchelnJN .. SportlehrerJN
+        .flag(0)
+        .text("") // SonstigeTauchartJN, SonstigeTauchart
+        .flag(1)
+        .text("Rotes Meer") // AuslandJN, Ausland
+        .text("30 m")       // Tauchtiefe
+        .flags(9, 0)        // UnterwasserFotografieJN .. HoehlentauchenJN
+        .flag(0)
+        .text("") // SonstigeAktivitaet
+        .flag(0)
+        .flag(1)
+        .flag(0)      // AlleinJN, PaarweiseJN, GruppenJN
+        .text("1995") // Beginn
+        .ganz(1999)
+        .ganz(20)
+        .ganz(2000)
+        .ganz(25)
+        .ganz(2001)
+        .ganz(30)       // Jahr1 .. Stunden3
+        .text("CMAS**") // Tauchausbildung
+        .flag(0)
+        .text("") // Zusatzkurse
+        .flag(1)
+        .flags(8, 0) // MeerJN .. SonstigeGewaesserJN
+        .text("")
+        .flag(0)
+        .text("") // SonstigeGewaesser, KrankheitJN, Krankheit
+        .flag(1)
+        .flags(3, 0); // TauchlehrerNein .. TauchlehrerBeruflich
+}
+
+// One block of a race kind: the Flag, the races so far and planned, their names.
+AltSatz rennen(unsigned char jn, int bisher, int geplant, const char* bezeichnung) {
+    return AltSatz().flag(jn).ganz(bisher).ganz(geplant).text(bezeichnung);
+}
+
+// L452 of 10.1999: the header without Seitenanzahl; the hill climb is Bergrennen.. and Bergstrecken...
+AltSatz l452Von1999() {
+    AltSatz s = AltSatz::kopf("10.1999", "L452", "Erkl\xE4rung Automobilsport", 1, "VP1")
+                    .text("1994")
+                    .flag(0)
+                    .flag(1) // Beginn, BerufsfahrerJN, AmateurJN
+                    .text("N")
+                    .text("Porsche")
+                    .text("911")
+                    .text("220")
+                    .text("3600"); // Gruppe, Marke, Typ, KW, Hubraum
+    s.dazu(rennen(1, 12, 6,
+                  "VLN N\xFC"
+                  "rburgring"))                 // Rundstrecken
+        .dazu(rennen(0, 0, 0, ""))              // Langstrecken
+        .dazu(rennen(1, 3, 2, "Schauinsland")); // BergrennenJN, Bergstrecken..
+    for (int i = 0; i < 6; ++i)
+        s.dazu(rennen(0, 0, 0, "")); // Rallye1 .. GoKartB
+    return s.flag(0)
+        .ganz(0)
+        .ganz(0)
+        .text("") // AndereRennenJN, AndereRennen1..
+        .ganz(0)
+        .ganz(0)
+        .text("")
+        .ganz(0)
+        .ganz(0)
+        .text("")              // AndereRennen2.., AndereRennen3..
+        .text("2. Platz 1998") // Plazierungen
+        .flag(0)
+        .text("")
+        .text(""); // UnfaelleJN, Unfaelle, WeitereAngaben
+}
+
+// L453 of 10.1999: the header without Seitenanzahl.
+AltSatz l453Von1999() {
+    AltSatz s = AltSatz::kopf("10.1999", "L453", "Erkl\xE4rung Motorradsport", 1, "VP2")
+                    .text("1996")
+                    .flag(0)
+                    .flag(1)
+                    .text("KTM")
+                    .text("SX 250")
+                    .text("1")
+                    .text("35")
+                    .text("250"); // Beginn .. Hubraum
+    s.dazu(rennen(0, 0, 0, "")).dazu(rennen(1, 8, 10, "ADAC MX Masters"));
+    for (int i = 0; i < 5; ++i)
+        s.dazu(rennen(0, 0, 0, "")); // Bergrennen .. Speedway
+    return s.flag(0)
+        .ganz(0)
+        .ganz(0)
+        .text("")
+        .ganz(0)
+        .ganz(0)
+        .text("")
+        .ganz(0)
+        .ganz(0)
+        .text("") // AndereRennen
+        .flag(1)  // RisikoMitversichernJN
+        .text("") // Plazierungen
+        .flag(1)
+        .text("Schl\xFC"
+              "sselbeinbruch 1998")
+        .text(""); // UnfaelleJN, Unfaelle, WeitereAngaben
+}
+
+// L454 of 11.2001: before 08.2008 and read with today's one layout.
+AltSatz l454Von2001() {
+    return AltSatz::kopf("11.2001", "L454", "Erkl\xE4rung Sportarten allgemein", 2, "VP1")
+        .text("Triathlon seit 1997") // SportartBeginn
+        .flag(1)
+        .flags(3, 0) // AmateurJN .. TrainerJN
+        .ganz(100)
+        .ganz(0) // SportanteilProzent, BerufsanteilProzent
+        .flag(0)
+        .text("") // LizenzAusbildungJN, ..Beschreibung
+        .flags(5, 0)
+        .flag(1)
+        .flag(1)
+        .text("Frankreich")
+        .flag(0)
+        .text("") // EinZweiJahrJN .. WeltweitLaender
+        .flags(3, 0)
+        .text("") // HalleJN .. SonstigeOrteBezeichnung
+        .flag(1)
+        .text("Ironman Roth")
+        .ganz(1)
+        .ganz(1) // Wettbewerbe
+        .flag(0)
+        .text("") // Rekordversuche
+        .flag(0)
+        .texte(2, "") // AusruestungTest
+        .flags(4, 0)
+        .text("") // SportAlleineJN .. SportSonstigesBeschreibung
+        .flags(4, 0)
+        .text("") // OeffentlicheVeranstJN .. SonstigesUmfeldBeschreibung
+        .flag(0)
+        .text("") // Sicherheitsvorkehrung
+        .flag(0)
+        .texte(4, ""); // Sportverletzung
+}
+
+// X278 of 08.2008: before 04.2010 and read with today's one layout.
+AltSatz x278Von2008() {
+    return AltSatz::kopf("08.2008", "X278", "Erkl\xE4rung Freizeitreiter", 1, "VP1")
+        .flag(1)
+        .flag(1)
+        .flags(16, 0) // ReitenJN, SpringreitenJN, RennreitenJN .. ReitunfaelleJN
+        .texte(5, "") // SonstigeReitsportart1 .. ReitunfaelleAngaben
+        .ganz(0)
+        .ganz(0)
+        .ganz(0)
+        .ganz(0)
+        .ganz(0)
+        .ganz(0); // AnzahlSpringDressurturniere .. AnzahlAndereWettkaempfe
+}
+
+// L036, two stays of one person told apart by Land and Index: one of 10.1999 without Seitenanzahl, one of
+// 11.2001.
+AltSatz l036(const char* version, const char* land, const char* dauer, int index) {
+    return AltSatz::kopf(version, "L036", "Erkl\xE4rung Auslandsaufenthalt", 1, "VP1")
+        .text(land)
+        .flag(1)
+        .text("") // Land, ErsterBeruflicherAufenthaltJN, ErsterBeruflicherAufenthalt
+        .text(dauer)
+        .flag(0)
+        .flag(0)
+        .flag(1)
+        .flags(4, 0)
+        .text("") // KoerperlichJN .. SonstigeTaetigkeit
+        .flags(6, 0)
+        .texte(3, "")
+        .flag(1)
+        .text("Bergbau") // NaesseJN .. ArtDesBetriebes
+        .flags(3, 0)
+        .flag(1)
+        .flags(5, 0)
+        .text("") // HausJN .. SonstigeUnterkunft
+        .flags(3, 0)
+        .flag(1)
+        .flag(0)
+        .text("") // HauptstadtJN .. SonstigerAufenthaltsort
+        .ganz(index);
+}
+
 } // namespace
 
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
     return {
-        {qbFormularL145::classIsA(), l145Von1999()}, {qbFormularL146::classIsA(), l146Von2000()},
-        {qbFormularL145::classIsA(), l145Von2001()}, {qbFormularL147::classIsA(), l147Von2001()},
-        {qbFormularL146::classIsA(), l146Von2002()}, {qbFormularL440::classIsA(), l440Von2005()},
+        {qbFormularL145::classIsA(), l145Von1999()},
+        {qbFormularL146::classIsA(), l146Von2000()},
+        {qbFormularL145::classIsA(), l145Von2001()},
+        {qbFormularL147::classIsA(), l147Von2001()},
+        {qbFormularL146::classIsA(), l146Von2002()},
+        {qbFormularL440::classIsA(), l440Von2005()},
+        {qbFormularL441::classIsA(), l441Von2001()},
+        {qbFormularL450::classIsA(), l450Von1999()},
+        {qbFormularL451::classIsA(), l451Von2001()},
+        {qbFormularL452::classIsA(), l452Von1999()},
+        {qbFormularL453::classIsA(), l453Von1999()},
+        {qbFormularL454::classIsA(), l454Von2001()},
+        {qbFormularX278::classIsA(), x278Von2008()},
+        {qbFormularL036::classIsA(), l036("10.1999", "Chile", "2 Jahre", 0)},
+        {qbFormularL036::classIsA(), l036("11.2001", "Chile", "6 Monate", 1)},
     };
+}
+
+unsigned legacyBeispielFormulare() { return static_cast<unsigned>(legacyBeispielSaetze().size()); }
+
+unsigned legacyBeispielAeltere() {
+    unsigned aeltere = 0;
+    for (const auto& [id, satz] : legacyBeispielSaetze()) {
+        const qbKlasse* klasse = qbKlasseZuId(id);
+        if (klasse && *klasse->version && satz.werte().front().text != klasse->version) ++aeltere;
+    }
+    return aeltere;
 }
 
 bool schreibeLegacyBeispiel(const std::string& pfad) {

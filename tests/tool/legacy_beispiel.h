@@ -18,6 +18,11 @@ inline const char* const kLegacyBeispielPfad = "examples/legacy/alte-layouts.qbf
 // The records of the example, in file order: each with its class id.
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze();
 
+// How many records the example holds, and how many of them have a stored Version other than their class's
+// current one (what the tool's upgrade counts as records to a newer layout).
+unsigned legacyBeispielFormulare();
+unsigned legacyBeispielAeltere();
+
 // Writes the example application file; false when the file cannot be written.
 bool schreibeLegacyBeispiel(const std::string& pfad);
 

@@ -2,6 +2,15 @@
 // tool.
 #include "anwendungen.h"
 
+#include "sport/qbFormularL036.h"
+#include "sport/qbFormularL441.h"
+#include "sport/qbFormularL450.h"
+#include "sport/qbFormularL451.h"
+#include "sport/qbFormularL452.h"
+#include "sport/qbFormularL453.h"
+#include "sport/qbFormularL454.h"
+#include "sport/qbFormularX278.h"
+
 using namespace qbtest;
 
 namespace {
@@ -15,9 +24,11 @@ TEST(ToolLegacyBeispiel, StoredFileIsWhatTheGeneratorWrites) {
 
 TEST(ToolLegacyBeispiel, LibraryReadsEveryOldRecordIntoItsFields) {
     const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
-    ASSERT_EQ(liste->AnzahlFormulare(), 6u);
-    const char* versionen[] = {"10.1999", "01.2000", "09.2001", "11.2001", "03.2002", "08.2005"};
-    for (unsigned i = 0; i < 6; ++i)
+    ASSERT_EQ(liste->AnzahlFormulare(), 15u);
+    const char* versionen[] = {"10.1999", "01.2000", "09.2001", "11.2001", "03.2002",
+                               "08.2005", "11.2001", "10.1999", "11.2001", "10.1999",
+                               "10.1999", "11.2001", "08.2008", "10.1999", "11.2001"};
+    for (unsigned i = 0; i < 15; ++i)
         EXPECT_EQ(liste->liefereFormularAnPos(static_cast<int>(i))->RefVersion(), versionen[i]) << i;
 
     const auto& l145 = static_cast<const qbFormularL145&>(*liste->liefereFormularAnPos(0));
@@ -41,6 +52,52 @@ TEST(ToolLegacyBeispiel, LibraryReadsEveryOldRecordIntoItsFields) {
     EXPECT_EQ(l146b.RefKopfschmerzenJN(), 0xff); // came with 05.2002
     const auto& l440 = static_cast<const qbFormularL440&>(*liste->liefereFormularAnPos(5));
     EXPECT_EQ(l440.RefKampfsportarten(), "Karate");
+
+    // The sport and stay-abroad forms: one layout whatever the version, the diving form without
+    // ApnoetauchenJN before 04.2005.
+    const auto& l441 = static_cast<const qbFormularL441&>(*liste->liefereFormularAnPos(6));
+    EXPECT_EQ(l441.RefFlugzeugJN(), 1);
+    EXPECT_EQ(l441.RefSichtflugJN(), 1);
+    EXPECT_EQ(l441.RefFlugLuftsportgeraet(), "Cessna 172");
+    EXPECT_EQ(l441.RefFlugLuftsportdisziplin(), "Motorflug");
+    const auto& l450 = static_cast<const qbFormularL450&>(*liste->liefereFormularAnPos(7));
+    EXPECT_EQ(l450.RefSeitenanzahl(), 1); // not in the record: the new object's
+    EXPECT_EQ(l450.RefMitgliedBergsportvereinSeit(), "1990");
+    EXPECT_EQ(l450.RefKletternGrad(), 6);
+    EXPECT_EQ(l450.RefRisikoMitVersichernJN(), 1);
+    const auto& l451 = static_cast<const qbFormularL451&>(*liste->liefereFormularAnPos(8));
+    EXPECT_EQ(l451.RefAusland(), "Rotes Meer");
+    EXPECT_EQ(l451.RefJahr3(), 2001);
+    EXPECT_EQ(l451.RefTauchlehrerNein(), 1);
+    EXPECT_EQ(l451.RefApnoetauchenJN(), 0xff);
+    const auto& l452 = static_cast<const qbFormularL452&>(*liste->liefereFormularAnPos(9));
+    EXPECT_EQ(l452.RefBergstreckenBezeichnung(), "Schauinsland");
+    EXPECT_EQ(l452.RefPlazierungen(), "2. Platz 1998");
+    const auto& l453 = static_cast<const qbFormularL453&>(*liste->liefereFormularAnPos(10));
+    EXPECT_EQ(l453.RefMotocrossGeplant(), 10);
+    EXPECT_EQ(l453.RefRisikoMitversichernJN(), 1);
+    const auto& l454 = static_cast<const qbFormularL454&>(*liste->liefereFormularAnPos(11));
+    EXPECT_EQ(l454.RefSportanteilProzent(), 100);
+    EXPECT_EQ(l454.RefEuropaLaender(), "Frankreich");
+    EXPECT_EQ(l454.RefWettbewerbeBeschreibung(), "Ironman Roth");
+    const auto& x278 = static_cast<const qbFormularX278&>(*liste->liefereFormularAnPos(12));
+    EXPECT_EQ(x278.RefSpringreitenJN(), 1);
+    EXPECT_EQ(x278.RefRennreitenJN(), 0);
+    qbFormularL036 chile;
+    EXPECT_EQ(liste->liefereFormular("L036", chile, 0, "Chile", "1"), 1u);
+    EXPECT_EQ(chile.RefDauer(), "6 Monate");
+    EXPECT_EQ(chile.RefArtDesBetriebes(), "Bergbau");
+    EXPECT_EQ(liste->liefereFormular("L036", chile, 0, "Chile", "0"), 1u);
+    EXPECT_EQ(chile.RefDauer(), "2 Jahre");
+}
+
+TEST(ToolLegacyBeispiel, ExplainNamesTheLayoutOfTheDivingRecordBefore04_2005) {
+    const Lauf lauf = qbformul({"explain", legacyBeispiel()});
+    EXPECT_EQ(lauf.code, 0) << lauf.err;
+    EXPECT_NE(lauf.aus.find("layout of qbFormularL451: aktuelle Tabelle ohne ApnoetauchenJN\n"),
+              std::string::npos)
+        << lauf.aus;
+    EXPECT_NE(lauf.aus.find("layout of qbFormularL036: aktuelle Tabelle\n"), std::string::npos);
 }
 
 TEST(ToolLegacyBeispiel, EveryRecordEndsWhereTheNextBegins) {
