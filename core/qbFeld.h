@@ -81,6 +81,7 @@ struct qbFeld {
     const char* standardText;  // default of Text
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
+    bool imStrom;                             // saved, restored and counted in binaryStoreSize
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -110,6 +111,7 @@ struct qbFeld {
             f.standardZahl = static_cast<double>(wert);
         });
     }
+    constexpr qbFeld standard(int wert) const { return standard(static_cast<long>(wert)); } // standard(0)
     constexpr qbFeld standard(const char* text) const {
         return mit([&](qbFeld& f) { f.standardText = text; });
     }
@@ -122,8 +124,13 @@ struct qbFeld {
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
     }
+    // A field of the object and its XML that no record holds: never saved or restored, not counted.
+    constexpr qbFeld ohneStrom() const {
+        return mit([](qbFeld& f) { f.imStrom = false; });
+    }
     bool gehoertZumLayout(int versionsSchluessel) const {
-        return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
+        return imStrom && versionsSchluessel >= liesAbSchluessel &&
+               (!liesWenn || liesWenn(versionsSchluessel));
     }
 
     // Row builders, one per type. Klasse is the form that declares the member.
@@ -170,7 +177,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr, true};
     }
 };
 
