@@ -86,6 +86,20 @@ inline RWspace gemeinsameGroesse(const qbFormularAllgGesu& f) {
     return n;
 }
 
+// What the health base reads of a record of that version in a form without an early layout of its own:
+// nothing but the dropped triple for "10.1999" and "01.2000", the common fields (13 and 14 where the version
+// holds them) and before 12.2000 the triple behind them.
+inline void gemeinsamerTeil(Satz& s, const std::string& version) {
+    if (version == "10.1999" || version == "01.2000") {
+        s.tripel();
+        return;
+    }
+    s.gemeinsam(kFelder1bis12);
+    if (qbFormularAllgGesu::mitArbeitsplatzwechsel(schluessel(version))) s.gemeinsam(kFelder13und14);
+    s.gemeinsam(kFelder15bis17);
+    if (schluessel(version) < 200012) s.tripel();
+}
+
 // The listed fields hold the same values in both forms.
 inline void erwarteGleicheListe(const qbFormular& erwartet, const qbFormular& ist, const qbFeldTabelle& t,
                                 const std::vector<FeldArt>& felder, const std::string& wo = "") {
