@@ -45,6 +45,10 @@ class qbFormularAllgGesu : public qbFormular {
     static bool mitArbeitsplatzwechsel(int versionsSchluessel);
 
 protected:
+    // "Beginn: <Beginn>; <Dauer phrase>", the opening of the composed answers.
+    RWCString BeginnUndDauer(Numerus numerus) const {
+        return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, numerus);
+    }
     // The two oldest layouts, "10.1999" and "01.2000", hold the common answers between the form's own
     // fields: the derived form reads them itself.
     bool hatFruehesLayout() const { return Version == "10.1999" || Version == "01.2000"; }

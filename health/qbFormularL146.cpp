@@ -31,9 +31,7 @@ static constexpr qbSchritt layout1999[] = {
 
 QB_GESUNDHEIT_LADEN_MIT_FRUEHEM_LAYOUT(qbFormularL146, layout1999)
 
-RWCString qbFormularL146::AntwortFrage1() const {
-    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Frage1;
-}
+RWCString qbFormularL146::AntwortFrage1() const { return BeginnUndDauer(Einzahl) + Frage1; }
 
 RWCString qbFormularL146::AntwortVerordnung() const {
     RWCString antwort;

@@ -32,6 +32,4 @@ static constexpr qbSchritt layout1999[] = {
 
 QB_GESUNDHEIT_LADEN_MIT_FRUEHEM_LAYOUT(qbFormularL241, layout1999)
 
-RWCString qbFormularL241::AntwortFrage1() {
-    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Frage1;
-}
+RWCString qbFormularL241::AntwortFrage1() { return BeginnUndDauer(Einzahl) + Frage1; }
