@@ -71,7 +71,7 @@ void schreibeWert(Strom& s, qbArt art, const T& v) {
 template <class Strom>
 void schreibeZeilen(const qbFeldTabelle& tabelle, const qbFormular& form, Strom& s) {
     for (const qbFeld& z : tabelle)
-        mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
+        if (z.imStrom) mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
 }
 
 } // namespace
@@ -215,7 +215,7 @@ void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) 
 // A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
 // the Version read just before it.
 static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
-    if (z.liesAbSchluessel == 0 && !z.liesWenn) return true;
+    if (z.imStrom && z.liesAbSchluessel == 0 && !z.liesWenn) return true;
     return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()));
 }
 
@@ -228,7 +228,8 @@ void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
         const char* trenner = " ohne ";
         const bool versionBekannt = !suche("Version");
         for (const qbFeld& z : *this)
-            if (versionBekannt && !gehoertZumLayout(z, form)) {
+            if (versionBekannt && z.imStrom &&
+                !gehoertZumLayout(z, form)) { // a row no record holds is no news
                 name = name + trenner + z.name;
                 trenner = ", ";
             }
@@ -250,6 +251,7 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
+        if (!z.imStrom) continue;
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
         summe += static_cast<RWspace>(z.groessenAbweichung); // unsigned arithmetic: a shortfall subtracts

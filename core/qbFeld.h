@@ -82,6 +82,7 @@ struct qbFeld {
     const char* standardText;  // default of Text
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
+    bool imStrom;                             // saved, restored and counted in binaryStoreSize
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -130,8 +131,13 @@ struct qbFeld {
     constexpr qbFeld groesseAbweichend(int bytes) const {
         return mit([&](qbFeld& f) { f.groessenAbweichung = bytes; });
     }
+    // A field of the object and its XML that no record holds: never saved or restored, not counted.
+    constexpr qbFeld ohneStrom() const {
+        return mit([](qbFeld& f) { f.imStrom = false; });
+    }
     bool gehoertZumLayout(int versionsSchluessel) const {
-        return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
+        return imStrom && versionsSchluessel >= liesAbSchluessel &&
+               (!liesWenn || liesWenn(versionsSchluessel));
     }
 
     // Row builders, one per type. Klasse is the form that declares the member.
@@ -178,7 +184,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, 0, 0, 0.0, "", 0, nullptr, true};
     }
 };
 

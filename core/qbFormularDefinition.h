@@ -17,13 +17,19 @@
 
 // ---- In the form's .cpp
 
-// One row of a field list as code: written, or read when the stored version's layout holds it.
-#define QB_FELD_SCHREIBEN(Typ, Name, ...) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);
+// One row of a field list as code: written, or read when the stored version's layout holds it; a row
+// without a place in the record neither.
+#define QB_FELD_SCHREIBEN(Typ, Name, ...)                                                                    \
+    {                                                                                                        \
+        static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
+        if constexpr (zeile.imStrom) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);                             \
+    }
 #define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
     {                                                                                                        \
         static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
-        if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))        \
-            qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                          \
+        if constexpr (zeile.imStrom)                                                                         \
+            if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))    \
+                qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                      \
     }
 #define QB_FELD_STANDARD(Typ, Name, ...)                                                                     \
     {                                                                                                        \
@@ -45,6 +51,7 @@
 #define QB_FELDER_ALS_CODE(Klasse, Felder)                                                                   \
     template <class Strom>                                                                                   \
     void Klasse::schreibeEigene(Strom& strom) const {                                                        \
+        using Selbst = Klasse;                                                                               \
         auto schreibe = [this](auto& s) { Felder(QB_FELD_SCHREIBEN) };                                       \
         if constexpr (std::is_same_v<Strom, RWFile> || std::is_same_v<Strom, RWvostream>)                    \
             qbSchreibeAmStueck(strom, schreibe);                                                             \
@@ -130,11 +137,15 @@
 // XMLgetDat: the node typed with the class name, the header in a nested node, then the own fields.
 // XMLputDat: only a node of the class's own type; the own keys, then the base's type set for the call of
 // qbFormular::XMLputDat, which reads the header only for a plain form, and the type set back.
-#define QB_FORMULAR_XML(Klasse)                                                                              \
+#define QB_FORMULAR_XML(Klasse) QB_FORMULAR_XML_KNOTEN_VON(Klasse, qbFormular)
+// The same, with the nested node filled by the base's XMLgetDat (for a health form: the header and the
+// common answers, which the import never reads back).
+#define QB_FORMULAR_XML_BASISKNOTEN(Klasse) QB_FORMULAR_XML_KNOTEN_VON(Klasse, Basisklasse)
+#define QB_FORMULAR_XML_KNOTEN_VON(Klasse, Knotenklasse)                                                     \
     void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                       \
         knoten.clear(klassenName());                                                                         \
         CQBXMLdata kopf("");                                                                                 \
-        qbFormular::XMLgetDat(kopf);                                                                         \
+        Knotenklasse::XMLgetDat(kopf);                                                                       \
         knoten.add(std::move(kopf));                                                                         \
         felder().xmlSchreibe(*this, knoten);                                                                 \
     }                                                                                                        \

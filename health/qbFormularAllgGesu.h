@@ -45,6 +45,10 @@ class qbFormularAllgGesu : public qbFormular {
     static bool mitArbeitsplatzwechsel(int versionsSchluessel);
 
 protected:
+    // "Beginn: <Beginn>; <Dauer phrase>", the opening of the composed answers.
+    RWCString BeginnUndDauer(Numerus numerus) const {
+        return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, numerus);
+    }
     // The two oldest layouts, "10.1999" and "01.2000", hold the common answers between the form's own
     // fields: the derived form reads them itself.
     bool hatFruehesLayout() const { return Version == "10.1999" || Version == "01.2000"; }
@@ -55,6 +59,27 @@ protected:
     template <class Strom>
     void liesGespeichert(Strom& s);
 };
+
+// restoreGuts, both overloads, of a form whose one old layout is the early one: the base's record, then
+// for "10.1999" and "01.2000" the form's sequence of 10.1999 (a qbSchritt array), else the current layout.
+#define QB_GESUNDHEIT_LADEN_MIT_FRUEHEM_LAYOUT(Klasse, layout1999)                                           \
+    void Klasse::restoreGuts(RWFile& f) { liesAktuellOderFrueh(f, {"10.1999", layout1999}); }                \
+    void Klasse::restoreGuts(RWvistream& s) { liesAktuellOderFrueh(s, {"10.1999", layout1999}); }            \
+    template <class Strom>                                                                                   \
+    void Klasse::liesAktuellOderFrueh(Strom& s, const qbLayout& layout1999_) {                               \
+        qbFormularAllgGesu::restoreGuts(s);                                                                  \
+        if (hatFruehesLayout())                                                                              \
+            liesFruehesLayout(s, layout1999_, felder());                                                     \
+        else                                                                                                 \
+            liesEigene(s);                                                                                   \
+    }
+// Its declaration in the class body.
+#define QB_GESUNDHEIT_FRUEHES_LAYOUT                                                                         \
+private:                                                                                                     \
+    template <class Strom>                                                                                   \
+    void liesAktuellOderFrueh(Strom& s, const qbLayout& layout1999);                                         \
+                                                                                                             \
+public:
 
 // The list's probe of a health piece: Krankheit and AntwortZuFrage from the two extras.
 void qbSondeGesundheit(qbFormular& sonde, const RWCString& krankheit, const RWCString& antwortZuFrage);

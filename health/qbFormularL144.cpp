@@ -14,18 +14,4 @@ QB_FORMULAR_LOESCHE(qbFormularL144)
 // One of the two health forms whose nested node comes from qbFormularAllgGesu::XMLgetDat: the common
 // answers reach the tree (and are never read back), so "ArztAdresse" stands twice, the common one in the
 // nested node and the own one at the form's level.
-void qbFormularL144::XMLgetDat(CQBXMLdata& knoten) const {
-    knoten.clear(klassenName());
-    CQBXMLdata gemeinsam("");
-    qbFormularAllgGesu::XMLgetDat(gemeinsam);
-    knoten.add(std::move(gemeinsam));
-    felder().xmlSchreibe(*this, knoten);
-}
-
-void qbFormularL144::XMLputDat(CQBXMLdata& knoten) {
-    if (knoten.Typ() != klassenName()) return;
-    felder().xmlLies(*this, knoten);
-    knoten.Typ(Basisklasse::klassenName());
-    qbFormular::XMLputDat(knoten);
-    knoten.Typ(klassenName());
-}
+QB_FORMULAR_XML_BASISKNOTEN(qbFormularL144)

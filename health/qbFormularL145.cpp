@@ -47,6 +47,6 @@ void qbFormularL145::restoreGuts(RWFile& f) { liesGespeichert(f); }
 void qbFormularL145::restoreGuts(RWvistream& s) { liesGespeichert(s); }
 
 RWCString qbFormularL145::AntwortFrage1() const {
-    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Verletzungshergang + " " +
-           VerletzteOrgane + " " + VerletzteGelenke + " ";
+    return BeginnUndDauer(Einzahl) + Verletzungshergang + " " + VerletzteOrgane + " " + VerletzteGelenke +
+           " ";
 }

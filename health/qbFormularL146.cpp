@@ -29,21 +29,9 @@ static constexpr qbSchritt layout1999[] = {
     "ErkrankungArbeitsunfaehigkeit", qbVerworfen::Flag, qbVerworfen::Int, qbVerworfen::Text, "Krankheit"};
 // clang-format on
 
-template <class Strom>
-void qbFormularL146::liesGespeichert(Strom& s) {
-    qbFormularAllgGesu::restoreGuts(s);
-    if (hatFruehesLayout())
-        liesFruehesLayout(s, {"10.1999", layout1999}, felder());
-    else
-        liesEigene(s);
-}
+QB_GESUNDHEIT_LADEN_MIT_FRUEHEM_LAYOUT(qbFormularL146, layout1999)
 
-void qbFormularL146::restoreGuts(RWFile& f) { liesGespeichert(f); }
-void qbFormularL146::restoreGuts(RWvistream& s) { liesGespeichert(s); }
-
-RWCString qbFormularL146::AntwortFrage1() const {
-    return "Beginn: " + Beginn + "; " + DauerPhrase(Dauer, Einzahl) + Frage1;
-}
+RWCString qbFormularL146::AntwortFrage1() const { return BeginnUndDauer(Einzahl) + Frage1; }
 
 RWCString qbFormularL146::AntwortVerordnung() const {
     RWCString antwort;

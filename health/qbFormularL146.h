@@ -44,7 +44,5 @@ class qbFormularL146 : public qbFormularAllgGesu {
     // SonstigeVerordnung and "; " when it is not empty, then EinzelheitenVerordnung.
     RWCString AntwortVerordnung() const;
 
-private:
-    template <class Strom>
-    void liesGespeichert(Strom& s);
+    QB_GESUNDHEIT_FRUEHES_LAYOUT
 };

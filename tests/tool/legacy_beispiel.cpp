@@ -6,6 +6,9 @@
 #include "health/qbFormularL145.h"
 #include "health/qbFormularL146.h"
 #include "health/qbFormularL147.h"
+#include "health/qbFormularL241.h"
+#include "health/qbFormularL243.h"
+#include "health/qbFormularL249.h"
 #include "rw/dlistcol.h"
 #include "sport/qbFormularL036.h"
 #include "sport/qbFormularL440.h"
@@ -443,6 +446,272 @@ AltSatz l036(const char* version, const char* land, const char* dauer, int index
         .ganz(index);
 }
 
+// L241 of 01.2000: the triple behind the header, the common answers between the own fields, AntwortZuFrage
+// last.
+AltSatz l241Von2000() {
+    return AltSatz::kopf("01.2000", "L241", "Erkl\xE4rung Atemwegserkrankungen", 2, "VP1")
+        .flag(0xff)                            // a value the form no longer has
+        .ganz(0)                               // a value the form no longer has
+        .text("")                              // a value the form no longer has
+        .text("Asthma bronchiale")             // Diagnose
+        .text("1996")                          // Beginn
+        .ganz(28)                              // Dauer
+        .text("Atemnot bei Belastung")         // Frage1
+        .flag(1)                               // AsthmaJN
+        .flag(0xff)                            // ChronischeBronchitisJN
+        .flag(0xff)                            // LungenemphysemJN
+        .flag(0xff)                            // LungenBronchialtumorJN
+        .flag(0xff)                            // LungenEmbolieJN
+        .flag(0xff)                            // LungentuberkoloseJN
+        .flag(0xff)                            // SarkoidoseJN
+        .flag(0xff)                            // SonstigeJN
+        .text("")                              // Sonstige
+        .text("Dr. Lang, Lindenweg 2, Passau") // ArztAdresse
+        .flag(0xff)                            // KrankenhausJN
+        .flag(0xff)                            // KurJN
+        .text("")                              // KrankenhausKur
+        .text("")                              // AdresseKrankenhausKurstaette
+        .flag(0xff)                            // OperationJN
+        .text("")                              // Operation
+        .text("Salbutamol")                    // Medikamente
+        .flag(1)                               // AllergienJN
+        .text("")                              // DatumAllergien
+        .text("Pollen")                        // Allergien
+        .flag(1)                               // AllergietestJN
+        .text("Prick-Test 1998: Gr\xE4ser")    // Allergietest
+        .text("nie geraucht")                  // Zigaretten
+        .flag(0xff)                            // GeheiltJN
+        .text("")                              // GeheiltSeit
+        .text("")                              // Beschwerden
+        .flag(0xff)                            // OperationGeplantJN
+        .text("")                              // GeplanteOperation
+        .text("")                              // AktuelleMedikamente
+        .flag(0xff)                            // LungenfunktionsEinschraenkungJN
+        .text("")                              // LungenfunktionsEinschraenkung
+        .text("")                              // Roentgenkontrolle
+        .flag(0xff)                            // BluthochdruckJN
+        .text("")                              // Bluthochdruck
+        .flag(0xff)                            // HerzerkrankungenJN
+        .text("")                              // Herzerkrankungen
+        .flag(0xff)                            // DiabetesJN
+        .text("")                              // Diabetes
+        .flag(0xff)                            // FettstoffwechselstoerungJN
+        .text("")                              // Fettstoffwechselstoerung
+        .flag(0xff)                            // NierenerkrankungJN
+        .text("")                              // Nierenerkrankung
+        .flag(0xff)                            // GefaessErkrankungJN
+        .text("")                              // GefaessErkrankung
+        .flag(0xff)                            // HauterkrankungJN
+        .text("")                              // Hauterkrankung
+        .flag(0xff)                            // SonstigeErkrankungJN
+        .text("")                              // SonstigeErkrankung
+        .text("")                              // AdresseWeitererArzt
+        .text("")                              // ErkrankungWeitererArzt
+        .text("")                              // MedikamenteWeitererArzt
+        .flag(0xff)                            // ArbeitsunfaehigJN
+        .text("")                              // DatumArbeitsunfaehigkeit
+        .text("")                              // ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)                            // a value the form no longer has
+        .ganz(0)                               // a value the form no longer has
+        .text("")                              // a value the form no longer has
+        .text("Asthma bronchiale")             // Krankheit
+        .text("Frage 4");                      // AntwortZuFrage
+}
+
+// L249 of 10.1999: the triple behind the header, the common answers between the own fields.
+AltSatz l249Von1999() {
+    return AltSatz::kopf("10.1999", "L249", "Erkl\xE4rung Allergien", 2, "VP2")
+        .flag(0xff)                            // a value the form no longer has
+        .ganz(0)                               // a value the form no longer has
+        .text("")                              // a value the form no longer has
+        .flag(1)                               // AsthmaJN
+        .text("")                              // Asthma
+        .flag(0xff)                            // SpastischeBronchitisJN
+        .text("")                              // SpastischeBronchitis
+        .flag(0xff)                            // ChronischeBronchitisJN
+        .text("")                              // ChronischeBronchitis
+        .flag(1)                               // HeuschnupfenJN
+        .text("seit 1990, Mai bis Juli")       // Heuschnupfen
+        .flag(0)                               // NahrungsmittelJN
+        .text("")                              // Nahrungsmittel
+        .flag(0)                               // InsektensticheJN
+        .text("")                              // Insektenstiche
+        .flag(0xff)                            // ArbeitsstoffeJN
+        .text("")                              // Arbeitsstoffe
+        .flag(0xff)                            // SonstigeUeberempfindlichkeitenJN
+        .text("")                              // SonstigeUeberempfindlichkeiten
+        .flag(0xff)                            // EkzemJN
+        .text("")                              // Ekzem
+        .flag(0xff)                            // NesselsuchtJN
+        .text("")                              // Nesselsucht
+        .flag(0xff)                            // NeurodermitisJN
+        .text("")                              // Neurodermitis
+        .flag(0xff)                            // GesamterKoerperJN
+        .flag(0xff)                            // HaendeJN
+        .flag(0xff)                            // GesichtJN
+        .flag(0xff)                            // SonstigeKoerperstellenJN
+        .text("")                              // SonstigeKoerperstellen
+        .flag(0xff)                            // WeitereHauterkrankungenJN
+        .text("")                              // WeitereHauterkrankungen
+        .flag(0xff)                            // ErkrankungenFamilieJN
+        .text("")                              // ErkrankungenFamilie
+        .flag(0xff)                            // HausarbeitJN
+        .flag(0xff)                            // ArbeitJN
+        .flag(0)                               // TiereJN
+        .flag(0xff)                            // AnstrengungenJN
+        .flag(0xff)                            // LebensmittelJN
+        .flag(0xff)                            // AndereGelegenheitenJN
+        .text("")                              // AndereGelegenheiten
+        .text("Dr. Lang, Lindenweg 2, Passau") // ArztAdresse
+        .flag(0xff)                            // KrankenhausJN
+        .flag(0xff)                            // KurJN
+        .text("")                              // KrankenhausKur
+        .text("")                              // AdresseKrankenhausKurstaette
+        .flag(1)                               // AllergietestJN
+        .text("Prick-Test 1998: Gr\xE4ser")    // Allergietest
+        .text("Dr. Berg, Hautarzt, Straubing") // ArztAllergien
+        .text("Salbutamol")                    // Medikamente
+        .flag(1)                               // HyposensibilisierungJN
+        .text("1998 bis 2000")                 // Hyposensibilisierung
+        .flag(0xff)                            // HyposensibilisierungGeplantJN
+        .text("")                              // HyposensibilisierungGeplant
+        .flag(0xff)                            // ArbeitsplatzwechselJN
+        .text("")                              // Arbeitsplatzwechsel
+        .text("")                              // AktuelleMedikamente
+        .text("")                              // AdresseWeitererArzt
+        .text("")                              // DatumBehandlungWeitererArzt
+        .text("")                              // ErkrankungWeitererArzt
+        .flag(0xff)                            // ArbeitsunfaehigJN
+        .text("")                              // DatumArbeitsunfaehigkeit
+        .text("")                              // ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)                            // a value the form no longer has
+        .ganz(0)                               // a value the form no longer has
+        .text("")                              // a value the form no longer has
+        .text("Asthma bronchiale");            // Krankheit
+}
+
+// L241 of 04.2002: the current layout without ZigarettenJN, no change of workplace.
+AltSatz l241Von2002() {
+    return AltSatz::kopf("04.2002", "L241", "Erkl\xE4rung Atemwegserkrankungen", 2, "VP1")
+        .text("Asthma bronchiale")             // Krankheit
+        .text("Frage 4")                       // AntwortZuFrage
+        .text("1996")                          // Beginn
+        .ganz(28)                              // Dauer
+        .text("Dr. Lang, Lindenweg 2, Passau") // ArztAdresse
+        .flag(0xff)                            // KrankenhausJN
+        .flag(0xff)                            // KurJN
+        .text("")                              // KrankenhausKur
+        .text("")                              // AdresseKrankenhausKurstaette
+        .text("")                              // AdresseWeitererArzt
+        .text("")                              // DatumBehandlungWeitererArzt
+        .text("")                              // ErkrankungWeitererArzt
+        .flag(0xff)                            // ArbeitsunfaehigJN
+        .text("")                              // DatumArbeitsunfaehigkeit
+        .text("")                              // ErkrankungArbeitsunfaehigkeit
+        .text("Asthma bronchiale")             // Diagnose
+        .text("Atemnot bei Belastung")         // Frage1
+        .flag(1)                               // AsthmaJN
+        .flag(0xff)                            // ChronischeBronchitisJN
+        .flag(0xff)                            // LungenemphysemJN
+        .flag(0xff)                            // LungenBronchialtumorJN
+        .flag(0xff)                            // LungenEmbolieJN
+        .flag(0xff)                            // LungentuberkoloseJN
+        .flag(0xff)                            // SarkoidoseJN
+        .flag(0xff)                            // SonstigeJN
+        .text("")                              // Sonstige
+        .flag(0xff)                            // OperationJN
+        .text("")                              // Operation
+        .text("Salbutamol")                    // Medikamente
+        .flag(1)                               // AllergienJN
+        .text("")                              // DatumAllergien
+        .text("Pollen")                        // Allergien
+        .flag(1)                               // AllergietestJN
+        .text("Prick-Test 1998: Gr\xE4ser")    // Allergietest
+        .text("nie geraucht")                  // Zigaretten
+        .flag(0xff)                            // GeheiltJN
+        .text("")                              // GeheiltSeit
+        .text("")                              // Beschwerden
+        .flag(0xff)                            // OperationGeplantJN
+        .text("")                              // GeplanteOperation
+        .text("")                              // AktuelleMedikamente
+        .flag(0xff)                            // LungenfunktionsEinschraenkungJN
+        .text("")                              // LungenfunktionsEinschraenkung
+        .text("")                              // Roentgenkontrolle
+        .flag(0xff)                            // BluthochdruckJN
+        .text("")                              // Bluthochdruck
+        .flag(0xff)                            // HerzerkrankungenJN
+        .text("")                              // Herzerkrankungen
+        .flag(0xff)                            // DiabetesJN
+        .text("")                              // Diabetes
+        .flag(0xff)                            // FettstoffwechselstoerungJN
+        .text("")                              // Fettstoffwechselstoerung
+        .flag(0xff)                            // NierenerkrankungJN
+        .text("")                              // Nierenerkrankung
+        .flag(0xff)                            // GefaessErkrankungJN
+        .text("")                              // GefaessErkrankung
+        .flag(0xff)                            // HauterkrankungJN
+        .text("")                              // Hauterkrankung
+        .flag(0xff)                            // SonstigeErkrankungJN
+        .text("")                              // SonstigeErkrankung
+        .text("");                             // MedikamenteWeitererArzt
+}
+
+// L243 of 11.2001: the change of workplace, not yet the psychic illnesses of 05.2002.
+AltSatz l243Von2001() {
+    return AltSatz::kopf("11.2001", "L243", "Erkl\xE4rung Epilepsie", 2, "VP1")
+        .text("Epilepsie")                     // Krankheit
+        .text("Frage 4")                       // AntwortZuFrage
+        .text("1999")                          // Beginn
+        .ganz(4)                               // Dauer
+        .text("Dr. Lang, Lindenweg 2, Passau") // ArztAdresse
+        .flag(0xff)                            // KrankenhausJN
+        .flag(0xff)                            // KurJN
+        .text("")                              // KrankenhausKur
+        .text("")                              // AdresseKrankenhausKurstaette
+        .text("")                              // AdresseWeitererArzt
+        .text("")                              // DatumBehandlungWeitererArzt
+        .text("")                              // ErkrankungWeitererArzt
+        .flag(0xff)                            // ArbeitsplatzwechselJN
+        .text("")                              // DatumArbeitsplatzwechsel
+        .flag(0xff)                            // ArbeitsunfaehigJN
+        .text("")                              // DatumArbeitsunfaehigkeit
+        .text("")                              // ErkrankungArbeitsunfaehigkeit
+        .flag(1)                               // GrandMalEpilepsieJN
+        .flag(0xff)                            // PetitMalEpilepsieJN
+        .flag(0xff)                            // SonstigeDiagnoseJN
+        .text("")                              // SonstigeDiagnose
+        .text("08.2001")                       // DatumAnfall
+        .flag(0xff)                            // TagJN
+        .flag(1)                               // NachtJN
+        .flag(0xff)                            // AufregungJN
+        .flag(0xff)                            // AlkoholgenussJN
+        .flag(0xff)                            // SonstigesAuftretenJN
+        .text("")                              // SonstigesAuftreten
+        .text("")                              // AnfallDauer
+        .text("2")                             // AnfaelleProJahr
+        .text("")                              // DauerBewusstlosigkeit
+        .flag(0xff)                            // SchwindelJN
+        .flag(0xff)                            // VerletzungJN
+        .text("")                              // Verletzung
+        .flag(0xff)                            // AlkoholJN
+        .text("")                              // Alkohol
+        .flag(1)                               // FuehrerscheinJN
+        .text("1995")                          // FuehrerscheinSeit
+        .flag(0xff)                            // KraftfahrzeugJN
+        .text("")                              // KraftfahrzeugSeit
+        .flag(0xff)                            // GeheiltJN
+        .text("")                              // GeheiltSeit
+        .text("")                              // Beschwerden
+        .text("Valproat")                      // AktuelleMedikamente
+        .flag(0xff)                            // KontrolleJN
+        .text("")                              // Kontrolle
+        .text("unauff\xE4llig")                // EEG
+        .text("")                              // Blutuntersuchung
+        .flag(0xff)                            // WeitereErkrankungenJN
+        .text("")                              // WeitereErkrankungen
+        .text("");                             // MedikamenteWeitererArzt
+}
+
 } // namespace
 
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
@@ -462,6 +731,10 @@ std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
         {qbFormularX278::classIsA(), x278Von2008()},
         {qbFormularL036::classIsA(), l036("10.1999", "Chile", "2 Jahre", 0)},
         {qbFormularL036::classIsA(), l036("11.2001", "Chile", "6 Monate", 1)},
+        {qbFormularL241::classIsA(), l241Von2000()},
+        {qbFormularL249::classIsA(), l249Von1999()},
+        {qbFormularL241::classIsA(), l241Von2002()},
+        {qbFormularL243::classIsA(), l243Von2001()},
     };
 }
 

@@ -2,6 +2,9 @@
 // tool.
 #include "anwendungen.h"
 
+#include "health/qbFormularL241.h"
+#include "health/qbFormularL243.h"
+#include "health/qbFormularL249.h"
 #include "sport/qbFormularL036.h"
 #include "sport/qbFormularL441.h"
 #include "sport/qbFormularL450.h"
@@ -24,11 +27,11 @@ TEST(ToolLegacyBeispiel, StoredFileIsWhatTheGeneratorWrites) {
 
 TEST(ToolLegacyBeispiel, LibraryReadsEveryOldRecordIntoItsFields) {
     const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
-    ASSERT_EQ(liste->AnzahlFormulare(), 15u);
-    const char* versionen[] = {"10.1999", "01.2000", "09.2001", "11.2001", "03.2002",
-                               "08.2005", "11.2001", "10.1999", "11.2001", "10.1999",
-                               "10.1999", "11.2001", "08.2008", "10.1999", "11.2001"};
-    for (unsigned i = 0; i < 15; ++i)
+    ASSERT_EQ(liste->AnzahlFormulare(), 19u);
+    const char* versionen[] = {"10.1999", "01.2000", "09.2001", "11.2001", "03.2002", "08.2005", "11.2001",
+                               "10.1999", "11.2001", "10.1999", "10.1999", "11.2001", "08.2008", "10.1999",
+                               "11.2001", "01.2000", "10.1999", "04.2002", "11.2001"};
+    for (unsigned i = 0; i < 19; ++i)
         EXPECT_EQ(liste->liefereFormularAnPos(static_cast<int>(i))->RefVersion(), versionen[i]) << i;
 
     const auto& l145 = static_cast<const qbFormularL145&>(*liste->liefereFormularAnPos(0));
@@ -98,6 +101,33 @@ TEST(ToolLegacyBeispiel, ExplainNamesTheLayoutOfTheDivingRecordBefore04_2005) {
               std::string::npos)
         << lauf.aus;
     EXPECT_NE(lauf.aus.find("layout of qbFormularL036: aktuelle Tabelle\n"), std::string::npos);
+}
+
+// The health declarations whose early layouts mix the common answers among their own fields.
+TEST(ToolLegacyBeispiel, LibraryReadsTheEarlyHealthRecords) {
+    const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
+    ASSERT_GE(liste->AnzahlFormulare(), 19u);
+    const auto& l241 = static_cast<const qbFormularL241&>(*liste->liefereFormularAnPos(15));
+    EXPECT_EQ(l241.RefDiagnose(), "Asthma bronchiale");
+    EXPECT_EQ(l241.RefDauer(), 28);
+    EXPECT_EQ(l241.RefZigaretten(), "nie geraucht");
+    EXPECT_EQ(l241.RefAntwortZuFrage(), "Frage 4");
+    EXPECT_EQ(l241.RefZigarettenJN(), 0xff); // never in the early layout
+    const auto& l249 = static_cast<const qbFormularL249&>(*liste->liefereFormularAnPos(16));
+    EXPECT_EQ(l249.RefHeuschnupfen(), "seit 1990, Mai bis Juli");
+    EXPECT_EQ(l249.RefHyposensibilisierung(), "1998 bis 2000");
+    EXPECT_EQ(l249.RefTiereJN(), 0);
+    EXPECT_EQ(l249.RefKrankheit(), "Asthma bronchiale");
+    EXPECT_EQ(l249.RefAntwortZuFrage(), ""); // only 01.2000 holds it
+    const auto& l241b = static_cast<const qbFormularL241&>(*liste->liefereFormularAnPos(17));
+    EXPECT_EQ(l241b.RefFrage1(), "Atemnot bei Belastung");
+    EXPECT_EQ(l241b.RefMedikamente(), "Salbutamol");
+    EXPECT_EQ(l241b.RefZigarettenJN(), 0xff); // came with 05.2002
+    const auto& l243 = static_cast<const qbFormularL243&>(*liste->liefereFormularAnPos(18));
+    EXPECT_EQ(l243.RefKrankheit(), "Epilepsie");
+    EXPECT_EQ(l243.RefAktuelleMedikamente(), "Valproat");
+    EXPECT_EQ(l243.RefEEG(), "unauff\xE4llig");
+    EXPECT_EQ(l243.RefPsychischeErkrankungenJN(), 0xff); // came with 05.2002
 }
 
 TEST(ToolLegacyBeispiel, EveryRecordEndsWhereTheNextBegins) {

@@ -187,6 +187,19 @@ TEST_F(ToolExplain, NamesTheOldLayoutsAndTheValuesTheyDrop) {
     EXPECT_TRUE(enthaelt(lauf.aus, "Every record ends exactly where the next form begins"));
 }
 
+TEST_F(ToolExplain, NamesTheEarlyLayoutsOfL241AndL249AndWhatTheCurrentTableLacksForTheirLaterRecords) {
+    const Lauf lauf = qbformul({"explain", legacyBeispiel()});
+    ASSERT_EQ(lauf.code, 0) << lauf.err;
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL241: 10\\.1999$")) << lauf.aus;
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL241: 01\\.2000$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL249: 10\\.1999$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL241: aktuelle Tabelle ohne ZigarettenJN$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL243: aktuelle Tabelle ohne "
+                                   "PsychischeErkrankungenJN, PsychischeErkrankungen$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "Text +AntwortZuFrage +\"Frage 4\"$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "Text +Hyposensibilisierung +\"1998 bis 2000\"$"));
+}
+
 // An L440 of "VP1" with Kampfsportarten "Judo" (its record from byte 20 to 98), then an L147, with four
 // zero bytes (an empty Text) inserted into the L440's record at the given offset.
 void schreibeMitEingeschobenemText(const std::string& datei, size_t bei) {
