@@ -237,6 +237,7 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
+        if (!z.inGroesse) continue;
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
     }

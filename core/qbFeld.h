@@ -76,6 +76,7 @@ struct qbFeld {
     const char* xmlSchreibKey; // null: the field does not go into XML
     const char* xmlLeseKey;    // null: the field is not read from XML
     bool laengeInGroesse;      // a Text's characters count in binaryStoreSize
+    bool inGroesse;            // the field counts in binaryStoreSize at all
     long standardGanz;         // default of Flag, Char, Bool, Int, Long, Enum
     double standardZahl;       // default of Double
     const char* standardText;  // default of Text
@@ -110,6 +111,9 @@ struct qbFeld {
             f.standardZahl = static_cast<double>(wert);
         });
     }
+    constexpr qbFeld standard(int wert) const { // .standard(0) is a number, not a null text
+        return standard(static_cast<long>(wert));
+    }
     constexpr qbFeld standard(const char* text) const {
         return mit([&](qbFeld& f) { f.standardText = text; });
     }
@@ -121,6 +125,9 @@ struct qbFeld {
     }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
+    }
+    constexpr qbFeld ohneGroesse() const { // left out of binaryStoreSize altogether, though saved
+        return mit([](qbFeld& f) { f.laengeInGroesse = f.inGroesse = false; });
     }
     bool gehoertZumLayout(int versionsSchluessel) const {
         return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
@@ -170,7 +177,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, true, 0, 0.0, "", 0, nullptr};
     }
 };
 

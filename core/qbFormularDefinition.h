@@ -100,17 +100,22 @@
 
 // saveGuts: stamp the current version literal, the base's record, then the own fields in table order.
 // restoreGuts: the base's record, then the own fields in table order, whatever the stored version.
-#define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
+// _DATEI and _STROM are the two overloads alone, for a form whose save deviates on the other path.
+#define QB_FORMULAR_SPEICHERN_DATEI(Klasse)                                                                  \
     void Klasse::saveGuts(RWFile& f) const {                                                                 \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(f);                                                                            \
         schreibeEigene(f);                                                                                   \
-    }                                                                                                        \
+    }
+#define QB_FORMULAR_SPEICHERN_STROM(Klasse)                                                                  \
     void Klasse::saveGuts(RWvostream& s) const {                                                             \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(s);                                                                            \
         schreibeEigene(s);                                                                                   \
     }
+#define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
+    QB_FORMULAR_SPEICHERN_DATEI(Klasse)                                                                      \
+    QB_FORMULAR_SPEICHERN_STROM(Klasse)
 #define QB_FORMULAR_LADEN(Klasse)                                                                            \
     void Klasse::restoreGuts(RWFile& f) {                                                                    \
         Basisklasse::restoreGuts(f);                                                                         \
@@ -125,6 +130,12 @@
 #define QB_FORMULAR_GROESSE(Klasse)                                                                          \
     RWspace Klasse::binaryStoreSize() const {                                                                \
         return Basisklasse::binaryStoreSize() + felder().groesse(*this);                                     \
+    }
+
+// The same, off by a constant: the original's figure where its sum of the fixed parts was miscounted.
+#define QB_FORMULAR_GROESSE_ABWEICHEND(Klasse, abweichung)                                                   \
+    RWspace Klasse::binaryStoreSize() const {                                                                \
+        return Basisklasse::binaryStoreSize() + felder().groesse(*this) + (abweichung);                      \
     }
 
 // XMLgetDat: the node typed with the class name, the header in a nested node, then the own fields.
