@@ -106,4 +106,30 @@ inline void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall
     }
 }
 
+// Classes whose record on a virtual stream does not read back, by their format: what the virtual stream's
+// save writes and what its restore reads differ on purpose (L138 writes one Flag more, L139 reads one Text
+// more, L141 leaves the common answers out, L143 reads records from 10.2002 on two fields short). Their
+// own tests pin what happens there; the tests over every class leave them out on virtual streams.
+inline bool liestVirtuellNichtZurueck(const qbKlasse& k) {
+    static const char* const klassen[] = {"qbFormularL138", "qbFormularL139", "qbFormularL141",
+                                          "qbFormularL143"};
+    for (const char* name : klassen)
+        if (std::string(k.klassenName) == name) return true;
+    return false;
+}
+
+// The figure binaryStoreSize gives for a form of the class whose saveGuts(RWFile&) writes bytes: the
+// bytes less what its rows leave out of the sum (ohneLaengeInGroesse, ohneGroesse), less the byte that
+// L135 and L137 miscount in their constant.
+inline size_t erwarteteGroesse(const qbKlasse& k, const qbFormular& form, size_t bytes) {
+    for (const qbFeldTabelle* t : kette(k))
+        for (const qbFeld& z : *t) {
+            if (z.art == qbArt::Text && !z.laengeInGroesse) bytes -= (form.*z.mitglied.text).length();
+            if (!z.inGroesse) bytes -= qbFesteBreite(z.art);
+        }
+    const std::string name = k.klassenName;
+    if (name == "qbFormularL135" || name == "qbFormularL137") bytes -= 1;
+    return bytes;
+}
+
 } // namespace qbtest
