@@ -63,6 +63,19 @@ inline std::unique_ptr<qbFormularListe> lies(const std::string& pfad) {
 // The stored example of old record layouts in the checkout.
 inline std::string legacyBeispiel() { return std::string(QBFORMUL_SOURCE_DIR) + "/" + kLegacyBeispielPfad; }
 
+// The forms of that many copies of the example, and of those the records older than their class, as the
+// upgrade reports them: "<n> forms (<m> records to a newer layout)".
+inline std::string legacyFormen(size_t kopien) {
+    size_t formen = 0, aelter = 0;
+    for (const auto& [id, satz] : legacyBeispielSaetze()) {
+        ++formen;
+        const qbKlasse* k = qbKlasseZuId(id);
+        if (k && satz.werte().front().text != k->version) ++aelter;
+    }
+    return std::to_string(kopien * formen) + " forms (" + std::to_string(kopien * aelter) +
+           " records to a newer layout)";
+}
+
 // What the tool writes for a file: the list restored and stored again by the library.
 inline std::string neuGespeichert(const std::string& pfad, const Ordner& ordner) {
     const std::string ziel = ordner / "erwartet.qbf";
