@@ -377,7 +377,7 @@ TEST_P(JedeKlasse, InPlaceWriteAndTableWriteOfTheCurrentLayoutGiveTheSameBytes) 
 // beyond); the table writes it field by field. Same bytes either way.
 TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) {
     const qbKlasse& k = *GetParam();
-    if (liestVirtuellNichtZurueck(k)) GTEST_SKIP() << "its virtual-stream save deviates, by design";
+    if (speichertVirtuellAbweichend(k)) GTEST_SKIP() << "its virtual-stream save deviates, by design";
     for (size_t langerText : {size_t{0}, size_t{3000}}) {
         auto form = zufallsFormular(k, 22);
         if (langerText) form->RefPersonenKennung(RWCString(std::string(langerText, 'x')));

@@ -118,6 +118,13 @@ inline bool liestVirtuellNichtZurueck(const qbKlasse& k) {
     return false;
 }
 
+// Of those, the classes whose save on a virtual stream writes other values than their field tables: L138
+// a Flag more, L141 no common answers.
+inline bool speichertVirtuellAbweichend(const qbKlasse& k) {
+    const std::string name = k.klassenName;
+    return name == "qbFormularL138" || name == "qbFormularL141";
+}
+
 // The figure binaryStoreSize gives for a form of the class whose saveGuts(RWFile&) writes bytes: the
 // bytes less what its rows leave out of the sum (ohneLaengeInGroesse, ohneGroesse), less the byte that
 // L135 and L137 miscount in their constant.
