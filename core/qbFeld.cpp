@@ -251,7 +251,7 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
-        if (!z.imStrom) continue;
+        if (!z.imStrom || !z.inGroesse) continue;
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
         summe += static_cast<RWspace>(z.groessenAbweichung); // unsigned arithmetic: a shortfall subtracts

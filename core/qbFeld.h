@@ -77,6 +77,7 @@ struct qbFeld {
     const char* xmlLeseKey;    // null: the field is not read from XML
     bool laengeInGroesse;      // a Text's characters count in binaryStoreSize
     int groessenAbweichung;    // bytes binaryStoreSize counts for the row beyond (or below) what it takes
+    bool inGroesse;            // the field counts in binaryStoreSize at all
     long standardGanz;         // default of Flag, Char, Bool, Int, Long, Enum
     double standardZahl;       // default of Double
     const char* standardText;  // default of Text
@@ -135,6 +136,9 @@ struct qbFeld {
     constexpr qbFeld ohneStrom() const {
         return mit([](qbFeld& f) { f.imStrom = false; });
     }
+    constexpr qbFeld ohneGroesse() const { // left out of binaryStoreSize altogether, though saved
+        return mit([](qbFeld& f) { f.laengeInGroesse = f.inGroesse = false; });
+    }
     bool gehoertZumLayout(int versionsSchluessel) const {
         return imStrom && versionsSchluessel >= liesAbSchluessel &&
                (!liesWenn || liesWenn(versionsSchluessel));
@@ -184,7 +188,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0, 0.0, "", 0, nullptr, true};
+        return qbFeld{art, name, m, name, name, true, 0, true, 0, 0.0, "", 0, nullptr, true};
     }
 };
 

@@ -107,17 +107,22 @@
 
 // saveGuts: stamp the current version literal, the base's record, then the own fields in table order.
 // restoreGuts: the base's record, then the own fields in table order, whatever the stored version.
-#define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
+// _DATEI and _STROM are the two overloads alone, for a form whose save deviates on the other path.
+#define QB_FORMULAR_SPEICHERN_DATEI(Klasse)                                                                  \
     void Klasse::saveGuts(RWFile& f) const {                                                                 \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(f);                                                                            \
         schreibeEigene(f);                                                                                   \
-    }                                                                                                        \
+    }
+#define QB_FORMULAR_SPEICHERN_STROM(Klasse)                                                                  \
     void Klasse::saveGuts(RWvostream& s) const {                                                             \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(s);                                                                            \
         schreibeEigene(s);                                                                                   \
     }
+#define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
+    QB_FORMULAR_SPEICHERN_DATEI(Klasse)                                                                      \
+    QB_FORMULAR_SPEICHERN_STROM(Klasse)
 #define QB_FORMULAR_LADEN(Klasse)                                                                            \
     void Klasse::restoreGuts(RWFile& f) {                                                                    \
         Basisklasse::restoreGuts(f);                                                                         \

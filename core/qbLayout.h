@@ -10,17 +10,57 @@
 
 #include <initializer_list>
 
+class qbAltwerte;
+
 struct qbSchritt {
-    const char* feld; // null: a value of type verworfen, read and thrown away
+    const char* feld; // null: a value of type verworfen, read and thrown away (or a conversion)
     qbArt verworfen;
-    int abSchluessel = 0; // the step belongs only to records whose version key is at least this
+    int abSchluessel = 0;             // the step belongs only to records whose version key is at least this
+    int vorSchluessel = 0;            // ... and, unless 0, below this
+    const char* nurVersion = nullptr; // ... and, unless null, whose Version is exactly this
+    const char* bisFeld = nullptr;    // a stretch: the rows from feld through bisFeld of the table holding
+                                      // feld, each read when it belongs to the record's layout
+    void (*umwandlung)(qbFormular&, qbAltwerte&) = nullptr; // a conversion: reads and converts old values
     constexpr qbSchritt(const char* name) : feld(name), verworfen(qbArt::Text) {}
     constexpr explicit qbSchritt(qbArt art) : feld(nullptr), verworfen(art) {}
+    constexpr explicit qbSchritt(void (*u)(qbFormular&, qbAltwerte&))
+        : feld(nullptr), verworfen(qbArt::Text), umwandlung(u) {}
     constexpr qbSchritt ab(int versionsSchluessel) const {
         qbSchritt s = *this;
         s.abSchluessel = versionsSchluessel;
         return s;
     }
+    constexpr qbSchritt vor(int versionsSchluessel) const {
+        qbSchritt s = *this;
+        s.vorSchluessel = versionsSchluessel;
+        return s;
+    }
+    constexpr qbSchritt nurBei(const char* version) const { // a comparison of the whole Version text
+        qbSchritt s = *this;
+        s.nurVersion = version;
+        return s;
+    }
+};
+
+// The rows from von through bis of a form's table, in table order; a row with a version condition of its
+// own (liesAb, liesNurWenn) is read only when the record's layout holds it.
+constexpr qbSchritt qbStrecke(const char* von, const char* bis) {
+    qbSchritt s(von);
+    s.bisFeld = bis;
+    return s;
+}
+
+// What a conversion step reads: values of the old layout that it looks at and throws away, and fields of
+// the form, found in the layout's tables. The observer sees each of them like any other step.
+class qbAltwerte {
+public:
+    virtual unsigned char flag() = 0;
+    virtual int ganz() = 0;
+    virtual RWCString text() = 0;
+    virtual void feld(const char* name) = 0;
+
+protected:
+    ~qbAltwerte() = default;
 };
 
 // Values that old layouts held and the current class has dropped.

@@ -455,6 +455,8 @@ std::string fallName(const ::testing::TestParamInfo<std::tuple<const qbKlasse*, 
 // the current record gives back every field.
 TEST_P(JedeKlasseJederStrom, EveryLayoutsRecordReadsBackWholeToItsLastByte) {
     const qbKlasse& k = klasse();
+    if (art() != Strom::Datei && liestVirtuellNichtZurueck(k))
+        GTEST_SKIP() << "its virtual-stream record does not read back, by design";
     const std::vector<Satz>& alle = saetze(k);
     ASSERT_GE(alle.size(), 2u) << "no old layout found for " << k.klassenName;
     Elementleser leser;
@@ -498,6 +500,18 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
         {"qbFormularL147", {"10.1999", "01.1999", "12.2000", "12.2001"}},
         {"qbFormularL146", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
         {"qbFormularL145", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001", "05.2002"}},
+        // L135 and L137 read all their fields from every record, L139 ArztName from 08.2008 and the triple
+        // of its own before 08.2009; L134 lacks ZigarettenJN before 05.2002 and has no layout of its own for
+        // "10.1999". L143's "05.2002" is its layout of that month alone, "06.2002" the keys up to 200209.
+        {"qbFormularL135", {"10.1999", "01.1999", "12.2000", "12.2001"}},
+        {"qbFormularL137", {"10.1999", "01.1999", "12.2000", "12.2001"}},
+        {"qbFormularL139", {"10.1999", "01.1999", "12.2000", "11.2001", "12.2001", "08.2008"}},
+        {"qbFormularL142", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
+        {"qbFormularL138", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
+        {"qbFormularL143",
+         {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001", "05.2002", "06.2002"}},
+        {"qbFormularL141", {"10.1999", "01.2000", "01.1999", "12.2000", "12.2001"}},
+        {"qbFormularL134", {"10.1999", "01.1999", "12.2000", "11.2001", "12.2001"}},
         {"qbFormularL241", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
         {"qbFormularL249", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
         {"qbFormularL243", {"10.1999", "01.1999", "12.2000", "11.2001", "12.2001"}},
@@ -517,6 +531,8 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
 
 TEST_P(JedeKlasseJederStrom, RecordCutAtEveryOffsetFailsTheStreamAndKeepsWhatWasRead) {
     const qbKlasse& k = klasse();
+    if (art() != Strom::Datei && liestVirtuellNichtZurueck(k))
+        GTEST_SKIP() << "its virtual-stream record does not read back, by design";
     const auto frisch = erzeuge(k);
     Elementleser leser;
     for (const Satz& s : saetze(k)) {
@@ -582,11 +598,13 @@ INSTANTIATE_TEST_SUITE_P(Beschaedigt, JedeKlasseJederStrom,
 
 namespace {
 
-// An application with one form of every class that is a print piece of its own, every field filled.
-qbFormularListe beispielAntrag() {
+// An application with one form of every class that is a print piece of its own, every field filled; on a
+// virtual stream without the classes whose record there does not read back.
+qbFormularListe beispielAntrag(Strom art) {
     qbFormularListe antrag;
     for (const qbKlasse& k : qbKlassen) {
         if (k.listenart == qbListenart::Basis) continue;
+        if (art != Strom::Datei && liestVirtuellNichtZurueck(k)) continue;
         auto form = erzeuge(k);
         fuelle(*form, k, false);
         antrag.neuesFormular(*form);
@@ -736,7 +754,7 @@ std::string stromName(const ::testing::TestParamInfo<Strom>& info) {
 // stood whole before the cut, as it was stored; the form the cut went through may follow, with what it had
 // read of its fields.
 TEST_P(BeschaedigteListe, CutAtEveryOffsetKeepsEveryFormBeforeTheCut) {
-    const qbFormularListe original = beispielAntrag();
+    const qbFormularListe original = beispielAntrag(GetParam());
     ASSERT_GE(original.AnzahlFormulare(), 3u);
     Gespeichert g = speichere(original, GetParam());
     Befunde befunde(std::string("list on ") + name(GetParam()));
@@ -778,7 +796,7 @@ TEST_P(BeschaedigteListe, CutAtEveryOffsetKeepsEveryFormBeforeTheCut) {
 // allocation; the new list is the caller's also when an error is raised, and it holds every form that
 // stood whole before the damaged byte.
 TEST_P(BeschaedigteListe, FlippedByteAtEveryOffsetKeepsEveryFormBeforeTheDamage) {
-    const qbFormularListe original = beispielAntrag();
+    const qbFormularListe original = beispielAntrag(GetParam());
     Gespeichert g = speichere(original, GetParam());
     Befunde befunde(std::string("list on ") + name(GetParam()));
     Listenleser leser;

@@ -133,6 +133,11 @@ public:
         }
         return *this;
     }
+    // A Text the reader takes without a field of its own, of a given value (one a conversion looks at).
+    Satz& rohText(const std::string& v) {
+        satz_.text(v);
+        return *this;
+    }
     // The Flag, Int and Text that records before 12.2000 hold behind the common answers.
     Satz& tripel() { return verworfen(qbArt::Flag).verworfen(qbArt::Int).verworfen(qbArt::Text); }
     const AltSatz& satz() const { return satz_; }

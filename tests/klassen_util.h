@@ -106,4 +106,37 @@ inline void fuelleZufaellig(const qbFeld& z, qbFormular& f, std::mt19937& zufall
     }
 }
 
+// Classes whose record on a virtual stream does not read back, by their format: what the virtual stream's
+// save writes and what its restore reads differ on purpose (L138 writes one Flag more, L139 reads one Text
+// more, L141 leaves the common answers out, L143 reads records from 10.2002 on two fields short). Their
+// own tests pin what happens there; the tests over every class leave them out on virtual streams.
+inline bool liestVirtuellNichtZurueck(const qbKlasse& k) {
+    static const char* const klassen[] = {"qbFormularL138", "qbFormularL139", "qbFormularL141",
+                                          "qbFormularL143"};
+    for (const char* name : klassen)
+        if (std::string(k.klassenName) == name) return true;
+    return false;
+}
+
+// Of those, the classes whose save on a virtual stream writes other values than their field tables: L138
+// a Flag more, L141 no common answers.
+inline bool speichertVirtuellAbweichend(const qbKlasse& k) {
+    const std::string name = k.klassenName;
+    return name == "qbFormularL138" || name == "qbFormularL141";
+}
+
+// The figure binaryStoreSize gives for a form of the class whose saveGuts(RWFile&) writes bytes: the
+// bytes less what its rows leave out of the sum (ohneLaengeInGroesse, ohneGroesse), plus what rows declare
+// as a miscounted size constant kept from the original (groesseAbweichend).
+inline size_t erwarteteGroesse(const qbKlasse& k, const qbFormular& form, size_t bytes) {
+    for (const qbFeldTabelle* t : kette(k))
+        for (const qbFeld& z : *t) {
+            if (!z.imStrom) continue;
+            if (z.art == qbArt::Text && !z.laengeInGroesse) bytes -= (form.*z.mitglied.text).length();
+            if (!z.inGroesse) bytes -= qbFesteBreite(z.art);
+            bytes += static_cast<size_t>(z.groessenAbweichung);
+        }
+    return bytes;
+}
+
 } // namespace qbtest

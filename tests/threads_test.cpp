@@ -47,7 +47,8 @@ void fuelleFormular(const qbKlasse& k, qbFormular& form, std::mt19937& zufall) {
 }
 
 // A dozen forms of every class with a print piece, for the three persons in turn (a replacing piece keeps
-// one per person), and a form of a number no class has, which the list keeps as its header.
+// one per person), and a form of a number no class has, which the list keeps as its header. The list goes
+// over every stream kind: the classes whose record does not read back from a virtual stream stay out.
 std::unique_ptr<qbFormularListe> baueListe(int nr) {
     static const char* const kPersonen[] = {"VN", "VP1", "VP2"};
     std::mt19937 zufall(static_cast<unsigned>(1000 + nr));
@@ -55,7 +56,7 @@ std::unique_ptr<qbFormularListe> baueListe(int nr) {
     liste->RefVersion("07.2001");
     for (int i = 0; i < 12; ++i)
         for (const qbKlasse& k : qbKlassen) {
-            if (!*k.nummer) continue;
+            if (!*k.nummer || liestVirtuellNichtZurueck(k)) continue;
             auto form = erzeuge(k);
             fuelleFormular(k, *form, zufall);
             form->RefPersonenKennung(kPersonen[(i + nr) % 3]);

@@ -3,6 +3,12 @@
 #include "legacy_fixture.h"
 
 #include "core/qbKlassen.h"
+#include "health/qbFormularL134.h"
+#include "health/qbFormularL138.h"
+#include "health/qbFormularL139.h"
+#include "health/qbFormularL141.h"
+#include "health/qbFormularL142.h"
+#include "health/qbFormularL143.h"
 #include "health/qbFormularL145.h"
 #include "health/qbFormularL146.h"
 #include "health/qbFormularL147.h"
@@ -176,6 +182,529 @@ AltSatz l146Von2002() {
         .text("") // OperationGeplantJN, GeplanteOperation
         .flag(0)
         .text(""); // RehaJN, Reha
+}
+
+// L142 of 01.2000: the common answers between the own fields, and the diagnosis as six Flags and a Text,
+// converted while reading: diarrhoea becomes upper abdominal complaints, the fifth Flag chronic gastritis.
+AltSatz l142Von2000() {
+    return AltSatz::kopf("01.2000", "L142", "Erkl\xE4rung Magen- und Zw\xF6lffingerdarmerkrankungen", 2,
+                         "VP1")
+        .dazu(vor200012Dreier())
+        .text("1998") // Beginn
+        .ganz(24)     // Dauer: six months
+        .flag(1)
+        .flag(0)
+        .flag(0) // SodbrennenJN, AppetitmangelJN, ErbrechenJN
+        .flag(1) // DurchfallJN: converted
+        .flag(0)
+        .text("")               // SonstigeSymptomeJN, SonstigeSymptome
+        .text("nach dem Essen") // HaeufigkeitBeschwerden
+        .flag(0)
+        .flag(0)
+        .flag(0)
+        .flag(0) // the old diagnosis: Flags 1 to 4
+        .flag(1)
+        .flag(0)                              // Flags 5 (chronic gastritis) and 6
+        .text("")                             // the old diagnosis Text, dropped
+        .text("Dr. Roth, Am Markt 2, Passau") // ArztAdresse
+        .flag(0)
+        .flag(0)
+        .text("") // KrankenhausJN, KurJN, KrankenhausKur
+        .flag(1)
+        .text("11.1998") // GastroskopieJN, Gastroskopie
+        .flag(0)
+        .text("")          // OperationJN, Operation
+        .text("Omeprazol") // Medikamente
+        .flag(0)
+        .text("")      // AlkoholJN, Alkohol
+        .text("keine") // Zigaretten
+        .flag(1)
+        .text("06.1999") // GeheiltJN, GeheiltSeit
+        .text("")        // Beschwerden
+        .flag(0)
+        .text("") // OperationGeplantJN, GeplanteOperation
+        .flag(1)
+        .text("Schonkost") // DiaetJN, Diaet
+        .text("")          // AktuelleMedikamente
+        .texte(3)          // AdresseWeitererArzt .. MedikamenteWeitererArzt
+        .flag(0)
+        .texte(2) // ArbeitsunfaehigJN .. ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)
+        .ganz(0)
+        .text("")          // a Flag, an Int and a Text the form no longer has
+        .text("Gastritis") // Krankheit
+        .text("Frage 5");  // AntwortZuFrage
+}
+
+// L142 of 12.2001: before KotoskopieJN, Kotoskopie and ZigarettenJN; the sixth Flag of the old diagnosis
+// takes the Text behind it into SonstigeDiagnose.
+AltSatz l142Von2001() {
+    return AltSatz::kopf("12.2001", "L142", "Erkl\xE4rung Magen- und Zw\xF6lffingerdarmerkrankungen", 2,
+                         "VP2")
+        .dazu(gemeinsam("Magenbeschwerden", false))
+        .flag(0)
+        .flag(1)
+        .flag(0)
+        .flag(0) // SodbrennenJN .. DurchfallJN
+        .flag(0)
+        .text("")          // SonstigeSymptomeJN, SonstigeSymptome
+        .text("monatlich") // HaeufigkeitBeschwerden
+        .flag(0)
+        .flag(0)
+        .flag(0)
+        .flag(0)
+        .flag(0)
+        .flag(1)           // the old diagnosis: the sixth Flag
+        .text("Reizmagen") // into SonstigeDiagnose
+        .flag(0)
+        .text("") // GastroskopieJN, Gastroskopie
+        .flag(0)
+        .text("") // OperationJN, Operation
+        .text("") // Medikamente
+        .flag(0)
+        .text("")
+        .text("") // AlkoholJN, Alkohol, Zigaretten
+        .flag(0)
+        .text("")
+        .text("gelegentlich") // GeheiltJN, GeheiltSeit, Beschwerden
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")  // OperationGeplantJN .. Diaet
+        .texte(2); // AktuelleMedikamente, MedikamenteWeitererArzt
+}
+
+// L138 of 10.1999: the common answers between the own fields.
+AltSatz l138Von1999() {
+    return AltSatz::kopf("10.1999", "L138", "Erkl\xE4rung Herz- und Kreislauferkrankungen", 2, "VP1")
+        .dazu(vor200012Dreier())
+        .text("1997")
+        .ganz(28) // Beginn, Dauer
+        .flag(1)
+        .flags(6, 0) // BluthochdruckJN .. HerzfehlerJN
+        .flag(0)
+        .text("")                       // SonstigeDiagnoseJN, SonstigeDiagnose
+        .text("Dr. Weber, Ring 5, Ulm") // ArztAdresse
+        .flag(0)
+        .flag(0)
+        .text("") // KrankenhausJN, KurJN, KrankenhausKur
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")           // Katheder .. Operation
+        .text("Metoprolol") // Medikamente
+        .flag(0)
+        .text("")
+        .text("keine") // AlkoholJN, Alkohol, Zigaretten
+        .flag(0)
+        .text("")
+        .text("Kopfschmerz") // GeheiltJN, GeheiltSeit, Beschwerden
+        .flag(0)
+        .text("")
+        .text("Metoprolol") // OperationGeplantJN, GeplanteOperation, AktuelleMedikamente
+        .ganz(150)
+        .ganz(95)
+        .text("09.1999") // BlutdruckSyst, BlutdruckDiast, DatumBlutdruck
+        .text("unauff\xE4llig")
+        .texte(2) // EKG, Roentgen, Blutuntersuchung
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .texte(3) // AdresseWeitererArzt .. MedikamenteWeitererArzt
+        .flag(0)
+        .texte(2) // ArbeitsunfaehigJN .. ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)
+        .ganz(0)
+        .text("")               // a Flag, an Int and a Text the form no longer has
+        .text("Bluthochdruck"); // Krankheit
+}
+
+// L138 of 04.2002: without ZigarettenJN and Puls.
+AltSatz l138Von2002() {
+    return AltSatz::kopf("04.2002", "L138", "Erkl\xE4rung Herz- und Kreislauferkrankungen", 2, "VP1")
+        .dazu(gemeinsam("Herzrhythmusst\xF6rung", false))
+        .flags(4, 0)
+        .flag(1)
+        .flags(2, 0) // BluthochdruckJN .. HerzfehlerJN
+        .flag(0)
+        .text("") // SonstigeDiagnoseJN, SonstigeDiagnose
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")          // Katheder .. Operation
+        .text("Flecainid") // Medikamente
+        .flag(0)
+        .text("")
+        .text("") // AlkoholJN, Alkohol, Zigaretten
+        .flag(0)
+        .text("")
+        .text("Herzstolpern") // GeheiltJN, GeheiltSeit, Beschwerden
+        .flag(0)
+        .text("")
+        .text("Flecainid") // OperationGeplantJN, GeplanteOperation, AktuelleMedikamente
+        .ganz(125)
+        .ganz(80)
+        .text("03.2002") // BlutdruckSyst, BlutdruckDiast, DatumBlutdruck
+        .text("Extrasystolen")
+        .texte(2) // EKG, Roentgen, Blutuntersuchung
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .text(""); // MedikamenteWeitererArzt
+}
+
+// The L143 fields from ESWLJN to NiereEntfernt, empty.
+AltSatz l143Behandlung() { return AltSatz().flag(0).text("").flag(0).text("").flag(0).text(""); }
+// The L143 fields from OperationGeplantJN to MedikamenteWeitererArzt, with a blood pressure.
+AltSatz l143Befunde() {
+    return AltSatz()
+        .flag(0)
+        .text("")
+        .text("") // OperationGeplantJN, GeplanteOperation, AktuelleMedikamente
+        .text("")
+        .text("Erythrozyten") // Blutuntersuchung, Urinuntersuchung
+        .flag(0)
+        .text("") // NierenfunktionsEinschraenkungJN, ..Einschraenkung
+        .ganz(130)
+        .ganz(85)
+        .text("") // BlutdruckSyst, BlutdruckDiast, DatumBlutdruck
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .text(""); // MedikamenteWeitererArzt
+}
+
+// L143 of 01.2000: the common answers between the own fields, and AntwortZuFrage behind them.
+AltSatz l143Von2000() {
+    return AltSatz::kopf("01.2000", "L143", "Erkl\xE4rung Harnwegs- und Nierenerkrankungen", 2, "VP1")
+        .dazu(vor200012Dreier())
+        .text("1999")
+        .ganz(1) // Beginn, Dauer: a week
+        .flag(1)
+        .flags(4, 0) // NierensteineJN .. HarnwegsinfekteJN
+        .flag(0)
+        .text("")                           // SonstigeDiagnoseJN, SonstigeDiagnose
+        .text("Dr. Klein, Burgweg 1, Jena") // ArztAdresse
+        .flag(1)
+        .flag(0)
+        .text("Uniklinik Jena") // KrankenhausJN, KurJN, KrankenhausKur
+        .flag(1)
+        .text("12.1999") // ESWLJN, ESWL
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("") // OperationJN .. NiereEntfernt
+        .flag(0)
+        .text("")
+        .text("") // AlkoholJN, Alkohol, Zigaretten
+        .flag(1)
+        .text("01.2000")
+        .text("") // GeheiltJN, GeheiltSeit, Beschwerden
+        .dazu(AltSatz().flag(0).text("").text("").text("").text("").flag(0).text("").ganz(120).ganz(80).text(
+            ""))
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .texte(3) // AdresseWeitererArzt .. MedikamenteWeitererArzt
+        .flag(0)
+        .texte(2) // ArbeitsunfaehigJN .. ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)
+        .ganz(0)
+        .text("")            // a Flag, an Int and a Text the form no longer has
+        .text("Nierenstein") // Krankheit
+        .text("Frage 7");    // AntwortZuFrage
+}
+
+// L143 of 03.2002: before Koerperseiten and ZigarettenJN.
+AltSatz l143Von200203() {
+    return AltSatz::kopf("03.2002", "L143", "Erkl\xE4rung Harnwegs- und Nierenerkrankungen", 2, "VP2")
+        .dazu(gemeinsam("Harnwegsinfekt", false))
+        .flags(4, 0)
+        .flag(1) // NierensteineJN .. HarnwegsinfekteJN
+        .flag(0)
+        .text("") // SonstigeDiagnoseJN, SonstigeDiagnose
+        .dazu(l143Behandlung())
+        .flag(0)
+        .text("")
+        .text("") // AlkoholJN, Alkohol, Zigaretten
+        .flag(1)
+        .text("02.2002")
+        .text("") // GeheiltJN, GeheiltSeit, Beschwerden
+        .dazu(l143Befunde());
+}
+
+// L143 of 05.2002: a Text behind Koerperseiten that says "medikamentös", and the medication behind it.
+AltSatz l143Von200205() {
+    return AltSatz::kopf("05.2002", "L143", "Erkl\xE4rung Harnwegs- und Nierenerkrankungen", 2, "VP1")
+        .dazu(gemeinsam("Nierenkolik", true))
+        .flag(1)
+        .flags(4, 0) // NierensteineJN .. HarnwegsinfekteJN
+        .flag(0)
+        .text("")                // SonstigeDiagnoseJN, SonstigeDiagnose
+        .text("links")           // Koerperseiten
+        .text("medikament\xF6s") // the treatment, a Text the form no longer has
+        .text("Tamsulosin")      // Medikamente, behind it
+        .dazu(l143Behandlung())
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("") // AlkoholJN, Alkohol, ZigarettenJN, Zigaretten
+        .flag(1)
+        .text("05.2002")
+        .text("") // GeheiltJN, GeheiltSeit, Beschwerden
+        .dazu(l143Befunde());
+}
+
+// L143 of 07.2002: Koerperseiten and ZigarettenJN, before Medikamente and NierensteineNochVorhandenJN.
+AltSatz l143Von200207() {
+    return AltSatz::kopf("07.2002", "L143", "Erkl\xE4rung Harnwegs- und Nierenerkrankungen", 2, "VP1")
+        .dazu(gemeinsam("Glomerulonephritis", true))
+        .flags(2, 0)
+        .flag(1)
+        .flags(2, 0) // NierensteineJN .. HarnwegsinfekteJN
+        .flag(0)
+        .text("")      // SonstigeDiagnoseJN, SonstigeDiagnose
+        .text("beide") // Koerperseiten
+        .dazu(l143Behandlung())
+        .flag(0)
+        .text("")
+        .flag(1)
+        .text("10 am Tag") // AlkoholJN, Alkohol, ZigarettenJN, Zigaretten
+        .flag(0)
+        .text("")
+        .text("M\xFC"
+              "digkeit") // GeheiltJN, GeheiltSeit, Beschwerden
+        .dazu(l143Befunde());
+}
+
+// L141 of 10.1999: the common answers between the own fields.
+AltSatz l141Von1999() {
+    return AltSatz::kopf("10.1999", "L141", "Erkl\xE4rung Gyn\xE4kologische Erkrankungen", 2, "VP2")
+        .dazu(vor200012Dreier())
+        .text("1996") // Beginn
+        .text("Blutungen")
+        .text("Myom") // Symptome, Diagnose
+        .text("Dr. Lang, Parkstra\xDF"
+              "e 9, Kassel") // ArztAdresse
+        .flag(1)
+        .flag(0)
+        .text("Klinikum Kassel") // KrankenhausJN, KurJN, KrankenhausKur
+        .flag(1)
+        .text("Myomentfernung 1997") // OperationJN, Operation
+        .flag(1)
+        .flag(0) // BefundGutartigJN, BefundBoesartigJN
+        .flag(0)
+        .text("") // OrganeEntferntJN, EntfernteOrgane
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("") // Strahlen-, Radium-, Chemotherapie
+        .text("")
+        .text("") // Behandlung, Medikamente
+        .flag(1)
+        .text("1998")
+        .text("") // GeheiltJN, GeheiltSeit, Beschwerden
+        .flag(1)  // KontrolleJN
+        .flag(0)
+        .text("") // OperationGeplantJN, GeplanteOperation
+        .flag(1)
+        .text("j\xE4hrlich") // VorsorgeJN, Vorsorge
+        .flag(1)
+        .flag(0)  // BefundEinwandfreiJN, BefundKontrollbeduerftigJN
+        .texte(2) // AdresseWeitererArzt, ErkrankungWeitererArzt
+        .flag(1)
+        .text("03.1997")
+        .text("Operation") // ArbeitsunfaehigJN .. ErkrankungArbeitsunfaehigkeit
+        .flag(0xff)
+        .ganz(0)
+        .text("")      // a Flag, an Int and a Text the form no longer has
+        .text("Myom"); // Krankheit
+}
+
+// L134 of 04.2002: before ZigarettenJN.
+AltSatz l134Von2002() {
+    return AltSatz::kopf("04.2002", "L134", "Erkrankung Diabetes mellitus", 2, "VP1")
+        .dazu(gemeinsam("Diabetes mellitus", false))
+        .flag(0)
+        .flag(1) // TypI_JN, TypII_JN
+        .flag(1)
+        .text("1999") // DiaetJN, DiaetSeit
+        .flag(0)
+        .text("")
+        .text("") // InsulinJN, InsulinSeit, Praeparate
+        .flag(0)
+        .text("") // InsulinpumpeJN, InsulinpumpeSeit
+        .flag(1)
+        .text("2000")      // TablettenJN, TablettenSeit
+        .text("Metformin") // Medikamente
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("") // Schock, Eiweiss, Augenhintergrund
+        .flag(0)
+        .text("") // AlkoholJN, Alkohol
+        .text("") // Zigaretten
+        .flag(1)
+        .text("2000") // OptimalEingestelltJN, OptimalEingestelltSeit
+        .text("")     // Beschwerden
+        .flag(1)
+        .text("viertelj\xE4hrlich") // KontrolleJN, Kontrolle
+        .text("03.2002")
+        .text("6,8")
+        .text("110")
+        .text("160") // Blutuntersuchung .. BlutzuckerNachEssen
+        .text("03.2002")
+        .text("negativ")
+        .text("negativ")
+        .text("negativ") // Urinuntersuchung .. Aceton
+        .ganz(135)
+        .ganz(85)
+        .text("03.2002") // BlutdruckSyst, BlutdruckDiast, DatumBlutdruck
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text("")
+        .text(""); // MedikamenteWeitererArzt
+}
+
+// L139: its own fields up to FacharztZuletzt.
+AltSatz l139Bis(const char* diagnose) {
+    return AltSatz()
+        .text(diagnose) // Diagnose
+        .flag(1)
+        .flags(6, 0) // ErkrankungLinks .. ErkrankungFolge
+        .text("")    // ErkrankungFolgeBeschreibung
+        .flag(0)
+        .text("") // AuftretenEinmalig, AuftretenEinmaligSeit
+        .flag(1)
+        .text("2005")
+        .text("monatlich")
+        .text("Stunden")
+        .text("05.2008") // AuftretenMehrfach ..
+        .flag(0)
+        .text("") // AuftretenFortwaehrend, AuftretenFortwaehrendSeit
+        .flag(0)
+        .text("")
+        .flag(1)
+        .text("2005") // FolgenNein .. BeschwerdenSeit
+        .flag(1)
+        .flag(1)
+        .flag(0)
+        .flag(0)
+        .flag(0)  // HoerminderungJa .. SonstigeJa
+        .text("") // SonstigeBeschreibung
+        .flag(1)
+        .text("2005 bis 2008")
+        .text("06.2008"); // FacharztJN, FacharztZeitraum, FacharztZuletzt
+}
+// L139: from BehandlungNein to ErkrankungArbeitsunfaehig, then the triple of records before 08.2009 and
+// the change of workplace.
+AltSatz l139Ab() {
+    return AltSatz()
+        .flag(0)
+        .flag(1)
+        .text("Betahistin") // BehandlungNein .. BehandlungMedikamenteArt
+        .flag(0)
+        .text("") // InfusionstherapieJa, InfusionZeitraum
+        .flags(3, 0)
+        .flag(1)
+        .flag(1)
+        .flag(0) // Hoergeraet.. TinnitusRechtsJa
+        .flag(0)
+        .text("")
+        .text("") // OperationJa, OperationArt, OperationZeitpunkt
+        .flag(0)
+        .flag(1)
+        .text("06.2008")
+        .text("Innenohrschwerh\xF6rigkeit") // Untersuchung..
+        .flag(0)
+        .texte(2)
+        .flag(0)
+        .texte(2)
+        .flag(0)
+        .texte(2)
+        .flag(0)
+        .texte(2) // Gleichgewicht .. Tomografie
+        .flag(0)
+        .texte(2) // ArbeitsunfaehigJN .. ErkrankungArbeitsunfaehig
+        .flag(0xff)
+        .ganz(0)
+        .text("") // a Flag, an Int and a Text the form no longer has
+        .flag(0)
+        .text(""); // ArbeitsplatzwechselJN, DatumArbeitsplatzwechsel
+}
+
+// L139 of 07.2008: before ArztName.
+AltSatz l139Von200807() {
+    return AltSatz::kopf("07.2008", "L139", "Erkl\xE4rung Ohren", 3, "VP1")
+        .dazu(gemeinsam("Tinnitus", true))
+        .dazu(l139Bis("Tinnitus"))
+        .text("Dr. Hahn, Lindenallee 4, Trier") // ArztAdresse
+        .dazu(l139Ab());
+}
+
+// L139 of 08.2008: ArztName, and still the triple.
+AltSatz l139Von200808() {
+    return AltSatz::kopf("08.2008", "L139", "Erkl\xE4rung Ohren", 3, "VP2")
+        .dazu(gemeinsam("H\xF6rsturz", true))
+        .dazu(l139Bis("H\xF6rsturz"))
+        .text("Dr. Hahn")             // ArztName
+        .text("Lindenallee 4, Trier") // ArztAdresse
+        .dazu(l139Ab());
 }
 
 // L440 of 08.2005, its only layout so far.
@@ -735,6 +1264,18 @@ std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
         {qbFormularL249::classIsA(), l249Von1999()},
         {qbFormularL241::classIsA(), l241Von2002()},
         {qbFormularL243::classIsA(), l243Von2001()},
+        {qbFormularL142::classIsA(), l142Von2000()},
+        {qbFormularL142::classIsA(), l142Von2001()},
+        {qbFormularL138::classIsA(), l138Von1999()},
+        {qbFormularL138::classIsA(), l138Von2002()},
+        {qbFormularL143::classIsA(), l143Von2000()},
+        {qbFormularL143::classIsA(), l143Von200203()},
+        {qbFormularL143::classIsA(), l143Von200205()},
+        {qbFormularL143::classIsA(), l143Von200207()},
+        {qbFormularL141::classIsA(), l141Von1999()},
+        {qbFormularL134::classIsA(), l134Von2002()},
+        {qbFormularL139::classIsA(), l139Von200807()},
+        {qbFormularL139::classIsA(), l139Von200808()},
     };
 }
 

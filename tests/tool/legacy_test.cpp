@@ -2,6 +2,12 @@
 // tool.
 #include "anwendungen.h"
 
+#include "health/qbFormularL134.h"
+#include "health/qbFormularL138.h"
+#include "health/qbFormularL139.h"
+#include "health/qbFormularL141.h"
+#include "health/qbFormularL142.h"
+#include "health/qbFormularL143.h"
 #include "health/qbFormularL241.h"
 #include "health/qbFormularL243.h"
 #include "health/qbFormularL249.h"
@@ -27,12 +33,12 @@ TEST(ToolLegacyBeispiel, StoredFileIsWhatTheGeneratorWrites) {
 
 TEST(ToolLegacyBeispiel, LibraryReadsEveryOldRecordIntoItsFields) {
     const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
-    ASSERT_EQ(liste->AnzahlFormulare(), 19u);
-    const char* versionen[] = {"10.1999", "01.2000", "09.2001", "11.2001", "03.2002", "08.2005", "11.2001",
-                               "10.1999", "11.2001", "10.1999", "10.1999", "11.2001", "08.2008", "10.1999",
-                               "11.2001", "01.2000", "10.1999", "04.2002", "11.2001"};
-    for (unsigned i = 0; i < 19; ++i)
-        EXPECT_EQ(liste->liefereFormularAnPos(static_cast<int>(i))->RefVersion(), versionen[i]) << i;
+    const auto saetze = legacyBeispielSaetze();
+    ASSERT_EQ(liste->AnzahlFormulare(), saetze.size());
+    for (unsigned i = 0; i < saetze.size(); ++i)
+        EXPECT_EQ(std::string(liste->liefereFormularAnPos(static_cast<int>(i))->RefVersion().data()),
+                  saetze[i].second.werte().front().text)
+            << i;
 
     const auto& l145 = static_cast<const qbFormularL145&>(*liste->liefereFormularAnPos(0));
     EXPECT_EQ(l145.RefVerletzungshergang(), "Sturz mit dem Fahrrad");
@@ -128,6 +134,45 @@ TEST(ToolLegacyBeispiel, LibraryReadsTheEarlyHealthRecords) {
     EXPECT_EQ(l243.RefAktuelleMedikamente(), "Valproat");
     EXPECT_EQ(l243.RefEEG(), "unauff\xE4llig");
     EXPECT_EQ(l243.RefPsychischeErkrankungenJN(), 0xff); // came with 05.2002
+}
+
+template <class F>
+const F& formAn(const qbFormularListe& liste, int pos) {
+    const qbFormular* f = liste.liefereFormularAnPos(pos);
+    EXPECT_EQ(f->isA(), F::classIsA()) << pos;
+    return static_cast<const F&>(*f);
+}
+
+TEST(ToolLegacyBeispiel, LibraryReadsTheOldHealthRecordsIntoTheirFields) {
+    const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
+    ASSERT_GE(liste->AnzahlFormulare(), 31u);
+    // L142: the old diagnosis converted while reading
+    const auto& l142 = formAn<qbFormularL142>(*liste, 19);
+    EXPECT_EQ(l142.RefDurchfallJN(), 0);
+    EXPECT_EQ(l142.RefSonstigeSymptomeJN(), 1);
+    EXPECT_EQ(l142.RefSonstigeSymptome(), "Oberbauchbeschwerden");
+    EXPECT_EQ(l142.RefDiagnose(), "rez./chron. Gastritis");
+    EXPECT_EQ(l142.RefAntwortZuFrage(), "Frage 5");
+    const auto& l142b = formAn<qbFormularL142>(*liste, 20);
+    EXPECT_EQ(l142b.RefDiagnose(), "");
+    EXPECT_EQ(l142b.RefSonstigeDiagnose(), "Reizmagen");
+    EXPECT_EQ(l142b.RefKotoskopieJN(), 0xff); // came with 05.2002
+    EXPECT_EQ(formAn<qbFormularL138>(*liste, 21).RefBlutdruckSyst(), 150);
+    EXPECT_EQ(formAn<qbFormularL138>(*liste, 21).RefKrankheit(), "Bluthochdruck");
+    EXPECT_EQ(formAn<qbFormularL138>(*liste, 22).RefPuls(), 0); // came with 05.2002
+    EXPECT_EQ(formAn<qbFormularL138>(*liste, 22).RefEKG(), "Extrasystolen");
+    EXPECT_EQ(formAn<qbFormularL143>(*liste, 23).RefKrankenhausKur(), "Uniklinik Jena");
+    EXPECT_EQ(formAn<qbFormularL143>(*liste, 24).RefGeheiltSeit(), "02.2002");
+    EXPECT_EQ(formAn<qbFormularL143>(*liste, 25).RefMedikamente(), "Tamsulosin");
+    EXPECT_EQ(formAn<qbFormularL143>(*liste, 25).RefKoerperseiten(), "links");
+    EXPECT_EQ(formAn<qbFormularL143>(*liste, 26).RefZigaretten(), "10 am Tag");
+    EXPECT_EQ(formAn<qbFormularL141>(*liste, 27).RefVorsorge(), "j\xE4hrlich");
+    EXPECT_EQ(formAn<qbFormularL141>(*liste, 27).RefKrankheit(), "Myom");
+    EXPECT_EQ(formAn<qbFormularL134>(*liste, 28).RefMedikamente(), "Metformin");
+    EXPECT_EQ(formAn<qbFormularL139>(*liste, 29).RefArztName(), "");
+    EXPECT_EQ(formAn<qbFormularL139>(*liste, 29).RefArztAdresse(), "Dr. Hahn, Lindenallee 4, Trier");
+    EXPECT_EQ(formAn<qbFormularL139>(*liste, 30).RefArztName(), "Dr. Hahn");
+    EXPECT_EQ(formAn<qbFormularL139>(*liste, 30).RefBehandlungMedikamenteArt(), "Betahistin");
 }
 
 TEST(ToolLegacyBeispiel, EveryRecordEndsWhereTheNextBegins) {

@@ -183,6 +183,16 @@ TEST_F(ToolExplain, NamesTheOldLayoutsAndTheValuesTheyDrop) {
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL146: 01\\.2000$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL145: vor 10\\.2002$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularAllgGesu: vor 12\\.2000$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL142: 01\\.2000$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL142: vor 05\\.2002$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL138: 10\\.1999$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL138: vor 05\\.2002$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL143: 01\\.2000$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL143: 05\\.2002$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL143: vor 10\\.2002$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL141: 10\\.1999$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL134: vor 05\\.2002$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL139: vor 08\\.2009$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "Text +\\(read, not kept\\) +\"\"$"));
     EXPECT_TRUE(enthaelt(lauf.aus, "Every record ends exactly where the next form begins"));
 }
