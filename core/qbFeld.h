@@ -16,6 +16,7 @@
 #include "qballg/qbPerson.h"
 
 #include <cstddef>
+#include <initializer_list>
 
 class CQBXMLdata;
 class RWFile;
@@ -81,6 +82,9 @@ struct qbFeld {
     const char* standardText;  // default of Text
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
+    int abJahr;              // read only from records whose version year is at least this (0: always)
+    bool vomVirtuellenStrom; // read from a virtual stream too (it is written to both)
+    bool inXmlDurchgaengen;  // exchanged in XML by the form's passes over an index, not in table order
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -110,6 +114,8 @@ struct qbFeld {
             f.standardZahl = static_cast<double>(wert);
         });
     }
+    // An int literal is a number, also 0 (which would otherwise fit the text default as well).
+    constexpr qbFeld standard(int wert) const { return standard(static_cast<long>(wert)); }
     constexpr qbFeld standard(const char* text) const {
         return mit([&](qbFeld& f) { f.standardText = text; });
     }
@@ -119,11 +125,27 @@ struct qbFeld {
     constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
         return mit([&](qbFeld& f) { f.liesWenn = bedingung; });
     }
+    // The field came with that year: the four characters of Version at position 3, read with atoi, which
+    // a version of an odd shape gives otherwise than its key.
+    constexpr qbFeld liesAbJahr(int jahr) const {
+        return mit([&](qbFeld& f) { f.abJahr = jahr; });
+    }
+    constexpr qbFeld nurAusDatei() const { // written to both stream kinds, read back from an RWFile only
+        return mit([](qbFeld& f) { f.vomVirtuellenStrom = false; });
+    }
+    // An element of an array that the form's XML exchanges in passes over the index, each pass treating
+    // several arrays (qbFeldTabelle::xmlSchreibeReihen), instead of at the row's place.
+    constexpr qbFeld xmlInDurchgaengen() const {
+        return mit([](qbFeld& f) { f.inXmlDurchgaengen = true; });
+    }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
     }
-    bool gehoertZumLayout(int versionsSchluessel) const {
-        return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
+    // Whether the row is read from every record, whatever its version.
+    constexpr bool immerGelesen() const { return liesAbSchluessel == 0 && !liesWenn && abJahr == 0; }
+    bool gehoertZumLayout(int versionsSchluessel, int versionsJahr) const {
+        return versionsSchluessel >= liesAbSchluessel && versionsJahr >= abJahr &&
+               (!liesWenn || liesWenn(versionsSchluessel));
     }
 
     // Row builders, one per type. Klasse is the form that declares the member.
@@ -170,7 +192,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr, 0, true, false};
     }
 };
 
@@ -193,8 +215,9 @@ public:
 
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;
-    // Reads the rows that belong to the layout of the form's Version (see liesAb, liesNurWenn).
-    void lies(qbFormular& form, RWFile& f) const;
+    // Reads the rows that belong to the layout of the form's Version (see liesAb, liesAbJahr, liesNurWenn);
+    // a read observer hears the layout's name first. From a virtual stream, only the rows it carries back.
+    void lies(qbFormular& form, RWFile& f, const char* layout = "aktuelle Tabelle") const;
     void lies(qbFormular& form, RWvistream& s) const;
     // Reads one row, or a value of that type that is thrown away when form is null.
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);
@@ -204,8 +227,21 @@ public:
     // 1 per Flag, Char, Bool and Enum, 4 per Int, Long and Date, 8 per Double.
     RWspace groesse(const qbFormular& form) const;
 
+    // The rows with XML keys in table order, except those exchanged in passes (xmlInDurchgaengen).
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
+    // Arrays exchanged as indexed keys "Name[i]": one pass per index i from 0, each pass treating the
+    // arrays in the order given. The key is composed of the index's digits, the prefix "Name[" and "]",
+    // and names the element's row by its XML key.
+    void xmlSchreibeReihen(const qbFormular& form, CQBXMLdata& knoten, int anzahl,
+                           std::initializer_list<const char*> reihen) const;
+    void xmlLiesReihen(qbFormular& form, const CQBXMLdata& knoten, int anzahl,
+                       std::initializer_list<const char*> reihen) const;
+
+    // Takes over from a form of another class every field that a row of quelle declares under the same
+    // name and type; the other fields of ziel stay as they are.
+    void uebernimmGleichnamige(qbFormular& ziel, const qbFormular& formQuelle,
+                               const qbFeldTabelle& quelle) const;
 
 private:
     const char* klasse_;
