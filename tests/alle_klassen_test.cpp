@@ -65,7 +65,13 @@ size_t gespeicherteBytes(const qbFormular& form) {
 
 // The figure binaryStoreSize must give: the bytes written, except where the class leaves something out
 // on purpose.
-size_t erwarteteGroesse(const qbFormular& form, size_t bytes) {
+size_t erwarteteGroesse(const qbKlasse& k, const qbFormular& form, size_t bytes) {
+    // Some forms count their header alone.
+    if (groesseOhneEigeneFelder(k)) {
+        qbFormular kopf;
+        kopf = form;
+        return gespeicherteBytes(kopf);
+    }
     // The health family leaves the characters of AntwortZuFrage out of the sum.
     if (const auto* gesu = dynamic_cast<const qbFormularAllgGesu*>(&form))
         return bytes - gesu->RefAntwortZuFrage().length();
@@ -106,10 +112,10 @@ TEST_P(JedeKlasse, FactoryCreatesTheClassWithTheHeaderOfItsRow) {
 TEST_P(JedeKlasse, BinaryStoreSizeCountsTheBytesSaveGutsWrites) {
     const qbKlasse& k = *GetParam();
     auto leer = erzeuge(k);
-    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(*leer, gespeicherteBytes(*leer)));
+    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(k, *leer, gespeicherteBytes(*leer)));
     for (unsigned saat = 1; saat <= 5; ++saat) {
         auto form = zufallsFormular(k, saat);
-        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(*form, gespeicherteBytes(*form)))
+        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(k, *form, gespeicherteBytes(*form)))
             << "seed " << saat;
     }
 }
@@ -135,27 +141,45 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
     }
 }
 
+// A field the virtual stream does not carry back keeps the fresh object's value. A record its reader does
+// not take back whole cannot be an element read by the vendor's machinery: its guts go directly.
 TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
     const qbKlasse& k = *GetParam();
+    const auto frisch = erzeuge(k);
     for (bool portabel : {false, true}) {
         auto form = zufallsFormular(k, 7);
         std::stringstream io;
-        RWCollectable* gelesen = nullptr;
-        if (portabel) {
+        std::unique_ptr<RWCollectable> gelesen;
+        if (!virtuellerSatzGanzLesbar(k)) {
+            gelesen = erzeuge(k);
+            std::unique_ptr<RWvostream> o(portabel ? static_cast<RWvostream*>(new RWpostream(io))
+                                                   : new RWbostream(io));
+            form->saveGuts(*o);
+            std::unique_ptr<RWvistream> i(portabel ? static_cast<RWvistream*>(new RWpistream(io))
+                                                   : new RWbistream(io));
+            static_cast<qbFormular&>(*gelesen).restoreGuts(*i);
+        } else if (portabel) {
+            RWCollectable* p = nullptr;
             RWpostream o(io);
             o << *form;
             RWpistream i(io);
-            i >> gelesen;
+            i >> p;
+            gelesen.reset(p);
         } else {
+            RWCollectable* p = nullptr;
             RWbostream o(io);
             o << *form;
             RWbistream i(io);
-            i >> gelesen;
+            i >> p;
+            gelesen.reset(p);
         }
-        std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
-        erwarteGleich(k, *form, static_cast<const qbFormular&>(*gelesen),
-                      portabel ? "RWpostream" : "RWbostream");
+        const qbFormular& zurueck = static_cast<const qbFormular&>(*gelesen);
+        for (const qbFeldTabelle* t : kette(k))
+            for (const qbFeld& z : *t)
+                EXPECT_EQ(feldAlsText(z, zurueck),
+                          feldAlsText(z, kommtUeberVirtuellenStrom(k, *t, z) ? *form : *frisch))
+                    << (portabel ? "RWpostream: " : "RWbostream: ") << k.klassenName << "::" << z.name;
     }
 }
 
@@ -395,7 +419,7 @@ TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) 
             RWbostream s(perTabelle);
             auto tabellen = kette(k);
             for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-                (*t)->schreibe(*form, s);
+                if (!nurAufDatei(k) || *t == &qbFormular::felder()) (*t)->schreibe(*form, s);
         }
         EXPECT_EQ(hex(bytesOf(amStueck.str())), hex(bytesOf(perTabelle.str()))) << langerText;
     }
