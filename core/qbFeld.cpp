@@ -221,7 +221,17 @@ static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
 
 void qbFeldTabelle::lies(qbFormular& form, RWFile& f, const char* layout) const {
     if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) {
-        b->layout(klasse_, layout);
+        std::string name = layout ? layout : "aktuelle Tabelle";
+        if (!layout) {
+            const char* trenner = " ohne ";
+            for (const qbFeld& z : *this)
+                if (!gehoertZumLayout(z, form)) {
+                    name += trenner;
+                    name += z.name;
+                    trenner = ", ";
+                }
+        }
+        b->layout(klasse_, name.c_str());
         for (const qbFeld& z : *this)
             if (gehoertZumLayout(z, form)) liesZeile(z, &form, f);
         return;

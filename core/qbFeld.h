@@ -216,8 +216,10 @@ public:
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;
     // Reads the rows that belong to the layout of the form's Version (see liesAb, liesAbJahr, liesNurWenn);
-    // a read observer hears the layout's name first. From a virtual stream, only the rows it carries back.
-    void lies(qbFormular& form, RWFile& f, const char* layout = "aktuelle Tabelle") const;
+    // a read observer hears the layout's name first: the one given, or "aktuelle Tabelle" and the rows the
+    // version leaves out ("aktuelle Tabelle ohne Seitenanzahl"). From a virtual stream, only the rows it
+    // carries back. (The header's own rows are named before its Version is read: as the current table.)
+    void lies(qbFormular& form, RWFile& f, const char* layout = nullptr) const;
     void lies(qbFormular& form, RWvistream& s) const;
     // Reads one row, or a value of that type that is thrown away when form is null.
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);

@@ -84,7 +84,7 @@ protected:
     template <class Strom>
     void schreibeEigene(Strom& s) const;
     template <class Strom>
-    void liesEigene(Strom& s, const char* layout = "aktuelle Tabelle");
+    void liesEigene(Strom& s, const char* layout = nullptr);
     void setzeStandard();
 
     mutable RWCString Version;

@@ -167,7 +167,7 @@ protected:                                                                      
     /* An old layout that differs from the current one only in rows left out by version reads through */ \
     /* it too, under that layout's name for a read observer. */                                            \
     template <class Strom>                                                                                 \
-    void liesEigene(Strom& s, const char* layout = "aktuelle Tabelle");                                    \
+    void liesEigene(Strom& s, const char* layout = nullptr);                                    \
     /* The own fields' defaults, as straight code from Felder. */                                          \
     void setzeStandard();                                                                                  \
     Felder(QB_FELD_MITGLIED)                                                                               \

@@ -231,7 +231,7 @@ Ergebnis arbeite(int nr, const char* pfad, Protokoll* beobachter) {
             qbSetzeLeseBeobachter(nullptr);
             e.altBeobachtet = beobachter->nimm();
         }
-        if (alt.AnzahlFormulare() != 6) e.rundreisen.push_back("the file of old layouts");
+        if (alt.AnzahlFormulare() != 15) e.rundreisen.push_back("the file of old layouts");
         e.alt = aufStrom<RWbostream>(alt);
     }
     return e;

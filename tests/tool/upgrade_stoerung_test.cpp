@@ -84,7 +84,7 @@ TEST_F(ToolUpgradeFaults, FullDiskUnderOneFileLeavesItIntactAndUpgradesTheOthers
     const Lauf lauf = qbformul({"upgrade", "--in-place", "--jobs", "2", a, b, c}, mitStoerung("full:" + b));
     EXPECT_EQ(lauf.code, 1);
     EXPECT_EQ(lauf.err, "qbformul: " + b + ": cannot be written: No space left on device; left as it was\n");
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 12 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 30 forms")) << lauf.aus;
     EXPECT_TRUE(enthaelt(lauf.aus, ", 1 failure, ")) << lauf.aus;
     EXPECT_EQ(liesDatei(b), alt);
     EXPECT_FALSE(gibtEs(b + ".bak"));
@@ -109,7 +109,7 @@ TEST_F(ToolUpgradeFaults, WriteThatStopsHalfwayIsRemovedAndNeverReplacesTheOrigi
     const Lauf lauf = qbformul({"upgrade", "--in-place", "--jobs", "1", a, gross, c}, start);
     EXPECT_EQ(lauf.code, 1);
     EXPECT_EQ(lauf.err, "qbformul: " + gross + ": cannot be written: File too large; left as it was\n");
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 12 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 30 forms")) << lauf.aus;
     EXPECT_EQ(liesDatei(gross), grossAlt);
     EXPECT_FALSE(gibtEs(gross + ".bak"));
     EXPECT_EQ(liesDatei(a), neu);
@@ -164,7 +164,7 @@ TEST_F(ToolUpgradeFaults, FolderWithoutWritePermissionKeepsItsFileAndTheOthersAr
     Lauf lauf = qbformul({"upgrade", "--in-place", "--jobs", "1", a, b, c}, ohneVorrechte());
     EXPECT_EQ(lauf.code, 1);
     EXPECT_EQ(lauf.err, "qbformul: " + b + ": cannot be written: Permission denied; left as it was\n");
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 12 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 30 forms")) << lauf.aus;
     EXPECT_EQ(liesDatei(b), alt);
     EXPECT_FALSE(gibtEs(b + ".bak"));
     EXPECT_EQ(liesDatei(a), neu);
@@ -214,7 +214,7 @@ TEST_F(ToolUpgradeFaults, FileRemovedAfterTheBatchBeganIsReportedAndTheOthersAre
                                mitStoerung("remove-after-first:" + c));
     EXPECT_EQ(lauf.code, 1);
     EXPECT_EQ(lauf.err, "qbformul: " + c + ": No such file or directory; left as it was\n");
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 3 of 4 files: 18 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 3 of 4 files: 45 forms")) << lauf.aus;
     EXPECT_TRUE(enthaelt(lauf.aus, ", 1 failure, ")) << lauf.aus;
     EXPECT_FALSE(gibtEs(c));
     EXPECT_FALSE(gibtEs(c + ".bak"));
@@ -232,7 +232,7 @@ TEST_F(ToolUpgradeFaults, FileRemovedWhileItIsUpgradedIsNotWrittenAgain) {
     EXPECT_EQ(lauf.err, "qbformul: " + b +
                             ": vanished before the new content could replace it: No such file or directory; "
                             "left as it was\n");
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 12 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 30 forms")) << lauf.aus;
     EXPECT_FALSE(gibtEs(b));
     EXPECT_FALSE(gibtEs(b + ".bak"));
     EXPECT_EQ(liesDatei(a), neu);

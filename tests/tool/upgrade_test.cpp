@@ -19,7 +19,7 @@ TEST_F(ToolUpgrade, GivesEveryRecordTheLayoutAndStampOfItsClass) {
     const std::string ziel = ordner / "neu.qbf";
     const Lauf lauf = qbformul({"upgrade", legacyBeispiel(), "-o", ziel});
     ASSERT_EQ(lauf.code, 0) << lauf.err;
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 1 of 1 files: 6 forms (5 records to a newer layout)"))
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 1 of 1 files: 15 forms (12 records to a newer layout)"))
         << lauf.aus;
     EXPECT_EQ(liesDatei(ziel), neuGespeichert(legacyBeispiel(), ordner));
 
@@ -69,7 +69,7 @@ TEST_F(ToolUpgrade, InputThatFailsIsReportedAndLeftUntouchedWhileTheOthersGoOn) 
                                        "record is cut off"))
         << lauf.err;
     EXPECT_TRUE(enthaelt(lauf.err, "left as it was")) << lauf.err;
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 12 forms")) << lauf.aus;
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 2 of 3 files: 30 forms")) << lauf.aus;
     EXPECT_TRUE(enthaelt(lauf.aus, "1 failure")) << lauf.aus;
     EXPECT_EQ(liesDatei(kaputt), kaputtInhalt);
     EXPECT_FALSE(gibtEs(kaputt + ".bak"));
@@ -88,7 +88,7 @@ TEST_F(ToolUpgrade, ManyFilesInParallelIntoAFolder) {
     }
     const Lauf lauf = qbformul(argumente);
     ASSERT_EQ(lauf.code, 0) << lauf.err;
-    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 20 of 20 files: 120 forms (100 records to a newer layout)"))
+    EXPECT_TRUE(enthaelt(lauf.aus, "upgraded 20 of 20 files: 300 forms (240 records to a newer layout)"))
         << lauf.aus;
     EXPECT_TRUE(enthaelt(lauf.aus, "0 failures"));
     const std::string erwartet = neuGespeichert(legacyBeispiel(), ordner);
