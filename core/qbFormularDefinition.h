@@ -135,25 +135,19 @@
         liesEigene(s);                                                                                       \
     }
 
-// A form stored on an RWFile only: its virtual-stream operations are the base's, so a virtual stream
-// carries the header alone (and nothing is stamped on that path).
+// A form stored on an RWFile only (QB_FORMULAR_NUR_DATEI): the RWFile's operations; those of a virtual
+// stream and binaryStoreSize are the base's.
 #define QB_FORMULAR_SPEICHERN_NUR_DATEI(Klasse)                                                              \
     void Klasse::saveGuts(RWFile& f) const {                                                                 \
         stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
         Basisklasse::saveGuts(f);                                                                            \
         schreibeEigene(f);                                                                                   \
-    }                                                                                                        \
-    void Klasse::saveGuts(RWvostream& s) const { Basisklasse::saveGuts(s); }
+    }
 #define QB_FORMULAR_LADEN_NUR_DATEI(Klasse)                                                                  \
     void Klasse::restoreGuts(RWFile& f) {                                                                    \
         Basisklasse::restoreGuts(f);                                                                         \
         liesEigene(f);                                                                                       \
-    }                                                                                                        \
-    void Klasse::restoreGuts(RWvistream& s) { Basisklasse::restoreGuts(s); }
-
-// A form whose size is the base's figure: its own fields are left out although saveGuts writes them.
-#define QB_FORMULAR_GROESSE_NUR_BASIS(Klasse)                                                                \
-    RWspace Klasse::binaryStoreSize() const { return Basisklasse::binaryStoreSize(); }
+    }
 
 // The base's figure plus the own fields' bytes.
 #define QB_FORMULAR_GROESSE(Klasse)                                                                          \

@@ -133,10 +133,11 @@ public:                                                                         
 
 // ---- In the class body
 
-// A form with no XML of its own: it declares neither XMLgetDat nor XMLputDat, so that qbFormular's apply.
-// Its rows carry no XML keys (see QB_FORMULAR_OHNE_XML_IDENTITAET).
+// The class body of a form: QB_FORMULAR. A form with no XML of its own, QB_FORMULAR_OHNE_XML, declares
+// neither XMLgetDat nor XMLputDat, so that qbFormular's apply; its rows carry no XML keys (see
+// QB_FORMULAR_OHNE_XML_IDENTITAET).
 // clang-format off
-#define QB_FORMULAR_OHNE_XML(Klasse, Basis, Felder)                                                        \
+#define QB_FORMULAR_GRUND(Klasse, Basis, Felder)                                                           \
 public:                                                                                                    \
     using Basisklasse = Basis;                                                                             \
     Klasse();                                                                                              \
@@ -146,10 +147,7 @@ public:                                                                         
     RWCollectable* newSpecies() const override;                                                            \
     RWCollectable* copy() const override;                                                                  \
     RWClassID isA() const override;                                                                        \
-    RWspace binaryStoreSize() const override;                                                              \
-    void restoreGuts(RWvistream& s) override;                                                              \
     void restoreGuts(RWFile& f) override;                                                                  \
-    void saveGuts(RWvostream& s) const override;                                                           \
     void saveGuts(RWFile& f) const override;                                                               \
     void loesche() override;                                                                               \
     static unsigned short classIsA();                                                                      \
@@ -174,8 +172,23 @@ protected:                                                                      
                                                                                                            \
 public:
 
+#define QB_FORMULAR_OHNE_XML(Klasse, Basis, Felder)                                                        \
+    QB_FORMULAR_GRUND(Klasse, Basis, Felder)                                                               \
+    RWspace binaryStoreSize() const override;                                                              \
+    void restoreGuts(RWvistream& s) override;                                                              \
+    void saveGuts(RWvostream& s) const override;
+
 #define QB_FORMULAR(Klasse, Basis, Felder)                                                                 \
     QB_FORMULAR_OHNE_XML(Klasse, Basis, Felder)                                                            \
+    void XMLgetDat(CQBXMLdata& knoten) const;                                                              \
+    void XMLputDat(CQBXMLdata& knoten);
+
+// A form stored on an RWFile only: it leaves the slots of the virtual streams and of binaryStoreSize to its
+// base, so that a virtual stream carries its header alone and its size is the header's.
+#define QB_FORMULAR_NUR_DATEI(Klasse, Basis, Felder)                                                       \
+    QB_FORMULAR_GRUND(Klasse, Basis, Felder)                                                               \
+    using Basis::restoreGuts;                                                                              \
+    using Basis::saveGuts;                                                                                 \
     void XMLgetDat(CQBXMLdata& knoten) const;                                                              \
     void XMLputDat(CQBXMLdata& knoten);
 // clang-format on

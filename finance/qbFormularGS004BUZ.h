@@ -63,7 +63,7 @@
          .xml("GewinnInLetztenJahren[2]").liesAb(200312).xmlInDurchgaengen())
 
 class qbFormularGS004BUZ : public qbFormular {
-    QB_FORMULAR(qbFormularGS004BUZ, qbFormular, QB_FELDER_qbFormularGS004BUZ)
+    QB_FORMULAR_NUR_DATEI(qbFormularGS004BUZ, qbFormular, QB_FELDER_qbFormularGS004BUZ)
     QB_REIHE(qbFormularGS004BUZ, Double, EinkommenInLetztenJahren, 3)
     QB_REIHE(qbFormularGS004BUZ, Double, GewinnInLetztenJahren, 3)
 

@@ -23,7 +23,7 @@
     FELD(Text, AngabenZuEidesstattlicherVersicherung)
 
 class qbFormularGS004LV : public qbFormular {
-    QB_FORMULAR(qbFormularGS004LV, qbFormular, QB_FELDER_qbFormularGS004LV)
+    QB_FORMULAR_NUR_DATEI(qbFormularGS004LV, qbFormular, QB_FELDER_qbFormularGS004LV)
 
     // The fields of the same name; the form's own header and the old form's person.
     qbFormularGS004LV(const qbFormularGS004& alt);

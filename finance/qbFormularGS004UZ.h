@@ -40,7 +40,7 @@
     FELD(Text, Gefahr)
 
 class qbFormularGS004UZ : public qbFormular {
-    QB_FORMULAR(qbFormularGS004UZ, qbFormular, QB_FELDER_qbFormularGS004UZ)
+    QB_FORMULAR_NUR_DATEI(qbFormularGS004UZ, qbFormular, QB_FELDER_qbFormularGS004UZ)
 
     // The fields of the same name; the form's own header and the old form's person.
     qbFormularGS004UZ(const qbFormularGS004& alt);

@@ -22,6 +22,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 using namespace qbtest;
@@ -375,6 +376,13 @@ TEST(GS004Split, RecordOfLVOnRWFileIsStampedAndHoldsEveryField) {
 }
 
 TEST(GS004Split, BinaryStoreSizeCoversTheHeaderAlone_Quirk) {
+    // The slot is left to the base: no override.
+    static_assert(
+        std::is_same_v<decltype(&qbFormularGS004BUZ::binaryStoreSize), RWspace (qbFormular::*)() const>);
+    static_assert(
+        std::is_same_v<decltype(&qbFormularGS004LV::binaryStoreSize), RWspace (qbFormular::*)() const>);
+    static_assert(
+        std::is_same_v<decltype(&qbFormularGS004UZ::binaryStoreSize), RWspace (qbFormular::*)() const>);
     qbFormularGS004BUZ f;
     f.RefTaetigAls("eine lange T\xE4tigkeit");
     qbFormular kopf;
