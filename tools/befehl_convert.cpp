@@ -116,7 +116,8 @@ void richteConvertEin(CLI::App& haupt, Befehle& befehle) {
         "application already holds for that person stays as it is and is not "
         "made again (nor from a second GS004 of the same person); a GS004 is removed once all three checks "
         "come from it, unless --keep. The other forms stay as they are. The output is a new file in today's "
-        "layouts (as upgrade writes them), written atomically and read back; the input is never written. Exit code 1 when the file holds no GS004."));
+        "layouts (as upgrade writes them), written atomically and read back; the input is never written. "
+        "Exit code 1 when the file holds no GS004."));
     befehle.push_back({app, [o] { return wandleUm(*o); }});
 }
 
