@@ -382,6 +382,58 @@ TEST(GS004Split, RecordOfLVOnRWFileIsStampedAndHoldsEveryField) {
     EXPECT_EQ(f.RefVersion(), "10.2003");
 }
 
+TEST(GS004Split, DefaultRecordOfBUZOnRWFile) {
+    qbFormularGS004BUZ f;
+    f.RefPersonenKennung("VP2");
+    f.RefGewinnInLetztenJahren(2, 1.5);
+    const Bytes ff = ein(0xff);
+    const Bytes erwartet = cat({text("03.2009"),
+                                text("GS004_001"),
+                                text("Finanzielle Risikopr\xFC"
+                                     "fung BU"),
+                                int32(1),
+                                text("VP2"),
+                                Bytes(4, 0), // IBU, EUZ, BUZ, PRZ
+                                ff,
+                                text(""),
+                                ff,
+                                text(""),
+                                ff,
+                                text(""),
+                                ff,
+                                text(""), // LehreJN .. Studium
+                                text(""),
+                                text(""),
+                                f64(0),
+                                f64(0),
+                                f64(0),
+                                Bytes(5, 0),
+                                text(""), // .. HoeheAnwartschaft
+                                ff,
+                                ff,
+                                ff,
+                                Bytes(3, 0),
+                                text(""),
+                                text(""),
+                                ff,
+                                ff,
+                                ff, // bVersBUZ .. bVersPRZ2
+                                text(""),
+                                text(""),
+                                ff,
+                                text(""),
+                                text(""),
+                                text(""),
+                                text(""),
+                                text(""),
+                                text(""),
+                                text(""),
+                                f64(0),
+                                f64(0),
+                                f64(1.5)}); // GewinnInLetztenJahren
+    EXPECT_EQ(hex(gespeichert(f)), hex(erwartet));
+}
+
 TEST(GS004Split, BinaryStoreSizeCoversTheHeaderAlone_Quirk) {
     // The slot is left to the base: no override.
     static_assert(
