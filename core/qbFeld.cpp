@@ -3,10 +3,12 @@
 #include "core/qbFormular.h"
 #include "core/qbLeseBeobachter.h"
 #include "qballg/CQBXMLdata.h"
+#include "qballg/qbAllgFunktionen.h"
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
 #include <atomic>
+#include <cassert>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -215,18 +217,18 @@ void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) 
 // A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
 // the Version read just before it.
 static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
-    if (z.imStrom && z.liesAbSchluessel == 0 && !z.liesWenn) return true;
-    return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()));
+    if (z.immerGelesen()) return true;
+    return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()), qbVersionsJahr(form.RefVersion()));
 }
 
-void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
+void qbFeldTabelle::lies(qbFormular& form, RWFile& f, const char* layout) const {
     if (qbLeseBeobachter* b = qbAktuellerLeseBeobachter()) {
-        // The layout is the current table; rows that came with a later version than the stored one are
-        // named, so that the branch a record took shows. (A table that reads Version itself, the header's,
-        // cannot know them yet.)
-        std::string name = "aktuelle Tabelle";
+        // The layout is the reader's branch when it names one; otherwise the current table, and rows that
+        // came with a later version than the stored one are named, so that the branch a record took shows.
+        // (A table that reads Version itself, the header's, cannot know them yet.)
+        std::string name = layout ? layout : "aktuelle Tabelle";
         const char* trenner = " ohne ";
-        const bool versionBekannt = !suche("Version");
+        const bool versionBekannt = !layout && !suche("Version");
         for (const qbFeld& z : *this)
             if (versionBekannt && z.imStrom &&
                 !gehoertZumLayout(z, form)) { // a row no record holds is no news
@@ -245,7 +247,7 @@ void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
 
 void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
     for (const qbFeld& z : *this)
-        if (gehoertZumLayout(z, form)) liesZeile(z, &form, s);
+        if (z.vomVirtuellenStrom && gehoertZumLayout(z, form)) liesZeile(z, &form, s);
 }
 
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
@@ -302,12 +304,12 @@ void inFolge(const qbFeldTabelle& tabelle, const char* const* folge, Tun tun) {
 
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        xmlSchreibeZeile(z, form, knoten);
+        if (!z.inXmlDurchgaengen) xmlSchreibeZeile(z, form, knoten);
 }
 
 void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        xmlLiesZeile(z, form, knoten);
+        if (!z.inXmlDurchgaengen) xmlLiesZeile(z, form, knoten);
 }
 
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const {
@@ -316,4 +318,68 @@ void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, cons
 
 void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const {
     inFolge(*this, folge, [&](const qbFeld& z) { xmlLiesZeile(z, form, knoten); });
+}
+
+namespace {
+
+// The row whose XML key (written or read) is this one.
+const qbFeld* zeileMitSchluessel(const qbFeldTabelle& t, const RWCString& key, bool lesen) {
+    for (const qbFeld& z : t) {
+        const char* k = lesen ? z.xmlLeseKey : z.xmlSchreibKey;
+        if (k && key == k) return &z;
+    }
+    return nullptr;
+}
+
+// Calls arbeit(row, key) for every element: pass i composes "Name[i]" for each array in turn.
+template <class Arbeit>
+void jedesElement(const qbFeldTabelle& t, int anzahl, std::initializer_list<const char*> reihen, bool lesen,
+                  Arbeit&& arbeit) {
+    for (int i = 0; i < anzahl; ++i) {
+        const RWCString index = doubleToRWCString(i, "", "", 0, 1);
+        for (const char* reihe : reihen) {
+            const RWCString key = RWCString(reihe) + "[" + index + "]";
+            const qbFeld* z = zeileMitSchluessel(t, key, lesen);
+            assert(z && "an array element has no row with that XML key");
+            if (z) arbeit(*z, key);
+        }
+    }
+}
+
+} // namespace
+
+void qbFeldTabelle::xmlSchreibeReihen(const qbFormular& form, CQBXMLdata& knoten, int anzahl,
+                                      std::initializer_list<const char*> reihen) const {
+    jedesElement(*this, anzahl, reihen, false, [&](const qbFeld& z, const RWCString& key) {
+        mitMitglied(z, [&](auto m) {
+            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                knoten.List(CQBXMLdata(key, form.*m));
+        });
+    });
+}
+
+void qbFeldTabelle::xmlLiesReihen(qbFormular& form, const CQBXMLdata& knoten, int anzahl,
+                                  std::initializer_list<const char*> reihen) const {
+    jedesElement(*this, anzahl, reihen, true, [&](const qbFeld& z, const RWCString& key) {
+        mitMitglied(z, [&](auto m) {
+            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>) knoten.Listvalue(key, form.*m);
+        });
+    });
+}
+
+// ---- Conversion
+
+void qbFeldTabelle::uebernimmGleichnamige(qbFormular& ziel, const qbFormular& formQuelle,
+                                          const qbFeldTabelle& quelle) const {
+    for (const qbFeld& z : *this) {
+        const qbFeld* q = quelle.suche(z.name);
+        if (!q || q->art != z.art) continue;
+        mitMitglied(z, [&](auto m) {
+            using T = std::remove_cvref_t<decltype(ziel.*m)>;
+            mitMitglied(*q, [&](auto mq) {
+                if constexpr (std::is_same_v<T, std::remove_cvref_t<decltype(formQuelle.*mq)>>)
+                    ziel.*m = formQuelle.*mq;
+            });
+        });
+    }
 }

@@ -16,6 +16,7 @@
 #include "qballg/qbPerson.h"
 
 #include <cstddef>
+#include <initializer_list>
 
 class CQBXMLdata;
 class RWFile;
@@ -84,6 +85,9 @@ struct qbFeld {
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
     bool imStrom;                             // saved, restored and counted in binaryStoreSize
+    int abJahr;              // read only from records whose version year is at least this (0: always)
+    bool vomVirtuellenStrom; // read from a virtual stream too (it is written to both)
+    bool inXmlDurchgaengen;  // exchanged in XML by the form's passes over an index, not in table order
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -124,6 +128,19 @@ struct qbFeld {
     constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
         return mit([&](qbFeld& f) { f.liesWenn = bedingung; });
     }
+    // The field came with that year: the four characters of Version at position 3, read with atoi, which
+    // a version of an odd shape gives otherwise than its key.
+    constexpr qbFeld liesAbJahr(int jahr) const {
+        return mit([&](qbFeld& f) { f.abJahr = jahr; });
+    }
+    constexpr qbFeld nurAusDatei() const { // written to both stream kinds, read back from an RWFile only
+        return mit([](qbFeld& f) { f.vomVirtuellenStrom = false; });
+    }
+    // An element of an array that the form's XML exchanges in passes over the index, each pass treating
+    // several arrays (qbFeldTabelle::xmlSchreibeReihen), instead of at the row's place.
+    constexpr qbFeld xmlInDurchgaengen() const {
+        return mit([](qbFeld& f) { f.inXmlDurchgaengen = true; });
+    }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
     }
@@ -139,8 +156,12 @@ struct qbFeld {
     constexpr qbFeld ohneGroesse() const { // left out of binaryStoreSize altogether, though saved
         return mit([](qbFeld& f) { f.laengeInGroesse = f.inGroesse = false; });
     }
-    bool gehoertZumLayout(int versionsSchluessel) const {
-        return imStrom && versionsSchluessel >= liesAbSchluessel &&
+    // Whether the row is read from every record, whatever its version.
+    constexpr bool immerGelesen() const {
+        return imStrom && liesAbSchluessel == 0 && !liesWenn && abJahr == 0;
+    }
+    bool gehoertZumLayout(int versionsSchluessel, int versionsJahr) const {
+        return imStrom && versionsSchluessel >= liesAbSchluessel && versionsJahr >= abJahr &&
                (!liesWenn || liesWenn(versionsSchluessel));
     }
 
@@ -188,7 +209,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, true, 0, 0.0, "", 0, nullptr, true};
+        return qbFeld{art, name, m, name, name, true, 0, true, 0, 0.0, "", 0, nullptr, true, 0, true, false};
     }
 };
 
@@ -211,8 +232,11 @@ public:
 
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;
-    // Reads the rows that belong to the layout of the form's Version (see liesAb, liesNurWenn).
-    void lies(qbFormular& form, RWFile& f) const;
+    // Reads the rows that belong to the layout of the form's Version (see liesAb, liesAbJahr, liesNurWenn);
+    // a read observer hears the layout's name first: the one given, or "aktuelle Tabelle" and the rows the
+    // version leaves out ("aktuelle Tabelle ohne Seitenanzahl"). From a virtual stream, only the rows it
+    // carries back. (The header's own rows are named before its Version is read: as the current table.)
+    void lies(qbFormular& form, RWFile& f, const char* layout = nullptr) const;
     void lies(qbFormular& form, RWvistream& s) const;
     // Reads one row, or a value of that type that is thrown away when form is null.
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);
@@ -223,13 +247,26 @@ public:
     // (groesseAbweichend).
     RWspace groesse(const qbFormular& form) const;
 
-    // The rows' values under their keys, in table order.
+    // The rows' values under their keys, in table order, except those exchanged in passes
+    // (xmlInDurchgaengen).
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
     // The same in an order of the form's own, which may name a field more than once: a list of field
     // names that ends with a null.
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const;
+    // Arrays exchanged as indexed keys "Name[i]": one pass per index i from 0, each pass treating the
+    // arrays in the order given. The key is composed of the index's digits, the prefix "Name[" and "]",
+    // and names the element's row by its XML key.
+    void xmlSchreibeReihen(const qbFormular& form, CQBXMLdata& knoten, int anzahl,
+                           std::initializer_list<const char*> reihen) const;
+    void xmlLiesReihen(qbFormular& form, const CQBXMLdata& knoten, int anzahl,
+                       std::initializer_list<const char*> reihen) const;
+
+    // Takes over from a form of another class every field that a row of quelle declares under the same
+    // name and type; the other fields of ziel stay as they are.
+    void uebernimmGleichnamige(qbFormular& ziel, const qbFormular& formQuelle,
+                               const qbFeldTabelle& quelle) const;
 
 private:
     const char* klasse_;

@@ -14,6 +14,8 @@ int qbVersionsSchluesselAllgemein(const RWCString& version) {
     return std::atoi(jahr + monat);
 }
 
+int qbVersionsJahr(const RWCString& version) { return std::atoi(RWCString(version(3, 4))); }
+
 unsigned short qbFormular::myAtom = qbId_qbFormular;
 unsigned short qbFormular::classIsA() { return myAtom; }
 

@@ -84,7 +84,7 @@ protected:
     template <class Strom>
     void schreibeEigene(Strom& s) const;
     template <class Strom>
-    void liesEigene(Strom& s);
+    void liesEigene(Strom& s, const char* layout = nullptr);
     void setzeStandard();
 
     mutable RWCString Version;
@@ -108,5 +108,10 @@ inline int qbVersionsSchluessel(const RWCString& version) {
                (v[0] - '0') * 10 + (v[1] - '0');
     return qbVersionsSchluesselAllgemein(version);
 }
+
+// The year of a version text: the four characters at position 3, read with atoi. For "MM.YYYY" the key
+// divided by 100; a text of another shape may give a year where its key gives none ("xx.2000": year 2000,
+// key 2000).
+int qbVersionsJahr(const RWCString& version);
 
 inline int qbFormular::versionsSchluessel() const { return qbVersionsSchluessel(Version); }

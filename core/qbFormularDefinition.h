@@ -28,7 +28,8 @@
     {                                                                                                        \
         static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
         if constexpr (zeile.imStrom)                                                                         \
-            if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))    \
+            if ((datei || zeile.vomVirtuellenStrom) &&                                                       \
+                (zeile.immerGelesen() || zeile.gehoertZumLayout(schluessel(), jahr())))                      \
                 qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                      \
     }
 #define QB_FELD_STANDARD(Typ, Name, ...)                                                                     \
@@ -38,13 +39,16 @@
     }
 
 // The field table of the class, from its field list.
-#define QB_FELDTABELLE(Klasse, Felder)                                                                       \
+#define QB_FELDTABELLE(Klasse, Felder) QB_FELDTABELLE_AUS(Klasse, Felder, QB_FELD_ZEILE)
+#define QB_FELDTABELLE_AUS(Klasse, Felder, Zeile)                                                            \
     const qbFeldTabelle& Klasse::felder() {                                                                  \
         using Selbst = Klasse;                                                                               \
-        static constexpr qbFeld zeilen[] = {Felder(QB_FELD_ZEILE)};                                          \
+        static constexpr qbFeld zeilen[] = {Felder(Zeile)};                                                  \
         static constexpr qbFeldTabelle tabelle(#Klasse, zeilen);                                             \
         return tabelle;                                                                                      \
     }
+// The rows of a form with no XML of its own carry no keys.
+#define QB_FELD_ZEILE_OHNE_XML(Typ, Name, ...) QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__).ohneXml(),
 
 // The own fields as straight code from the field list: the current layout written and read, and the
 // defaults of a new object. The read goes through the table instead while an observer listens.
@@ -59,16 +63,20 @@
             schreibe(strom);                                                                                 \
     }                                                                                                        \
     template <class Strom>                                                                                   \
-    void Klasse::liesEigene(Strom& strom) {                                                                  \
+    void Klasse::liesEigene(Strom& strom, [[maybe_unused]] const char* layout) {                             \
         using Selbst = Klasse;                                                                               \
-        /* The stored version's key, worked out at the first row that depends on it. */                      \
-        int gemerkt = 0;                                                                                     \
+        [[maybe_unused]] constexpr bool datei = std::is_same_v<Strom, RWFile>;                               \
+        /* The stored version's key and year, worked out at the first row that depends on them. */           \
+        int gemerkt = 0, gemerktesJahr = -1;                                                                 \
         [[maybe_unused]] auto schluessel = [&] {                                                             \
             return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
         };                                                                                                   \
+        [[maybe_unused]] auto jahr = [&] {                                                                   \
+            return gemerktesJahr >= 0 ? gemerktesJahr : gemerktesJahr = qbVersionsJahr(Version);             \
+        };                                                                                                   \
         auto lies = [&](auto& s) { Felder(QB_FELD_LESEN) };                                                  \
         if constexpr (std::is_same_v<Strom, RWFile>) {                                                       \
-            if (qbAktuellerLeseBeobachter()) return felder().lies(*this, strom);                             \
+            if (qbAktuellerLeseBeobachter()) return felder().lies(*this, strom, layout);                     \
             qbLiesAmStueck(strom, lies);                                                                     \
         } else                                                                                               \
             lies(strom);                                                                                     \
@@ -81,12 +89,18 @@
 // Identity, field table, copy construction and assignment (base first, then the own fields), and the
 // entry points of the class table (creator, copy for the list, assignment for the list, XML import).
 #define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+    QB_FELDTABELLE(Klasse, Felder)                                                                           \
+    QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)
+// The same for a form declared with QB_FORMULAR_OHNE_XML.
+#define QB_FORMULAR_OHNE_XML_IDENTITAET(Klasse, Felder)                                                      \
+    QB_FELDTABELLE_AUS(Klasse, Felder, QB_FELD_ZEILE_OHNE_XML)                                               \
+    QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)
+#define QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)                                                  \
     unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
     unsigned short Klasse::classIsA() { return myAtom; }                                                     \
     RWClassID Klasse::isA() const { return myAtom; }                                                         \
     RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
     RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
-    QB_FELDTABELLE(Klasse, Felder)                                                                           \
     Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
     Klasse& Klasse::operator=(const Klasse& other) {                                                         \
         Basisklasse::operator=(other);                                                                       \
@@ -131,6 +145,20 @@
     void Klasse::restoreGuts(RWvistream& s) {                                                                \
         Basisklasse::restoreGuts(s);                                                                         \
         liesEigene(s);                                                                                       \
+    }
+
+// A form stored on an RWFile only (QB_FORMULAR_NUR_DATEI): the RWFile's operations; those of a virtual
+// stream and binaryStoreSize are the base's.
+#define QB_FORMULAR_SPEICHERN_NUR_DATEI(Klasse)                                                              \
+    void Klasse::saveGuts(RWFile& f) const {                                                                 \
+        stempele(qbKlassen[qbIndex_##Klasse].version);                                                       \
+        Basisklasse::saveGuts(f);                                                                            \
+        schreibeEigene(f);                                                                                   \
+    }
+#define QB_FORMULAR_LADEN_NUR_DATEI(Klasse)                                                                  \
+    void Klasse::restoreGuts(RWFile& f) {                                                                    \
+        Basisklasse::restoreGuts(f);                                                                         \
+        liesEigene(f);                                                                                       \
     }
 
 // The base's figure plus the own fields' bytes.
@@ -185,6 +213,16 @@
     void Klasse::loesche() {                                                                                 \
         PersonenKennung = "";                                                                                \
         *this = Klasse();                                                                                    \
+    }
+
+// A conversion constructor from a form of another class: a fresh object, assigned a second fresh one so
+// that the whole header is the new class's own, then the old form's person and every field the old
+// class declares under the same name and type. The old form is not changed.
+#define QB_FORMULAR_UMWANDLUNG(Klasse, Quelle)                                                               \
+    Klasse::Klasse(const Quelle& alt) : Klasse() {                                                           \
+        *this = Klasse();                                                                                    \
+        PersonenKennung = alt.RefPersonenKennung();                                                          \
+        felder().uebernimmGleichnamige(*this, alt, Quelle::felder());                                        \
     }
 
 // Everything by the family rule.

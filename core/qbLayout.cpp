@@ -96,7 +96,8 @@ void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
             assert(von && bis && von <= bis && "a stretch names rows that no one table of the form has");
             if (von && bis)
                 for (const qbFeld* z = von; z <= bis; ++z)
-                    if ((z->liesAbSchluessel == 0 && !z->liesWenn) || z->gehoertZumLayout(schluessel))
+                    if (z->immerGelesen() ||
+                        z->gehoertZumLayout(schluessel, qbVersionsJahr(form.RefVersion())))
                         qbFeldTabelle::liesZeile(*z, &form, s);
             continue;
         }

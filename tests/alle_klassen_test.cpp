@@ -52,15 +52,17 @@ void erwarteGleich(const qbKlasse& k, const qbFormular& a, const qbFormular& b, 
             EXPECT_EQ(feldAlsText(z, a), feldAlsText(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
 }
 
-// A form read from a record of form holds its values, except in a field that no record holds: that keeps
-// the fresh object's value.
+// A form read from a record of form holds its values, except in a field that no record holds, or that a
+// virtual stream does not carry back: that keeps the fresh object's value.
 void erwarteGelesen(const qbKlasse& k, const qbFormular& form, const qbFormular& gelesen,
-                    const std::string& wo) {
+                    const std::string& wo, bool virtuell = false) {
     const auto frisch = erzeuge(k);
     for (const qbFeldTabelle* t : kette(k))
-        for (const qbFeld& z : *t)
-            EXPECT_EQ(feldAlsText(z, gelesen), feldAlsText(z, z.imStrom ? form : *frisch))
+        for (const qbFeld& z : *t) {
+            const bool kommtZurueck = z.imStrom && (!virtuell || kommtUeberVirtuellenStrom(k, *t, z));
+            EXPECT_EQ(feldAlsText(z, gelesen), feldAlsText(z, kommtZurueck ? form : *frisch))
                 << wo << ": " << k.klassenName << "::" << z.name;
+        }
 }
 
 // Bytes of saveGuts(RWFile&) alone.
@@ -71,6 +73,17 @@ size_t gespeicherteBytes(const qbFormular& form) {
         form.saveGuts(f);
     }
     return readBytes(tmp.path()).size();
+}
+
+// The figure binaryStoreSize must give: a form whose size is its header's counts the header alone;
+// otherwise the bytes less what the rows leave out of the sum (erwarteteGroesse).
+size_t erwarteteGroesseDerKlasse(const qbKlasse& k, const qbFormular& form, size_t bytes) {
+    if (groesseOhneEigeneFelder(k)) {
+        qbFormular kopf;
+        kopf = form;
+        return gespeicherteBytes(kopf);
+    }
+    return erwarteteGroesse(k, form, bytes);
 }
 
 class JedeKlasse : public ::testing::TestWithParam<const qbKlasse*> {};
@@ -107,10 +120,10 @@ TEST_P(JedeKlasse, FactoryCreatesTheClassWithTheHeaderOfItsRow) {
 TEST_P(JedeKlasse, BinaryStoreSizeCountsTheBytesSaveGutsWrites) {
     const qbKlasse& k = *GetParam();
     auto leer = erzeuge(k);
-    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesse(k, *leer, gespeicherteBytes(*leer)));
+    EXPECT_EQ(leer->binaryStoreSize(), erwarteteGroesseDerKlasse(k, *leer, gespeicherteBytes(*leer)));
     for (unsigned saat = 1; saat <= 5; ++saat) {
         auto form = zufallsFormular(k, saat);
-        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesse(k, *form, gespeicherteBytes(*form)))
+        EXPECT_EQ(form->binaryStoreSize(), erwarteteGroesseDerKlasse(k, *form, gespeicherteBytes(*form)))
             << "seed " << saat;
     }
 }
@@ -136,6 +149,8 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
     }
 }
 
+// A field the virtual stream does not carry back keeps the fresh object's value. A record its reader does
+// not take back whole cannot be an element read by the vendor's machinery: its guts go directly.
 TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
     const qbKlasse& k = *GetParam();
     if (liestVirtuellNichtZurueck(k))
@@ -143,22 +158,33 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
     for (bool portabel : {false, true}) {
         auto form = zufallsFormular(k, 7);
         std::stringstream io;
-        RWCollectable* gelesen = nullptr;
-        if (portabel) {
+        std::unique_ptr<RWCollectable> gelesen;
+        if (!virtuellerSatzGanzLesbar(k)) {
+            gelesen = erzeuge(k);
+            std::unique_ptr<RWvostream> o(portabel ? static_cast<RWvostream*>(new RWpostream(io))
+                                                   : new RWbostream(io));
+            form->saveGuts(*o);
+            std::unique_ptr<RWvistream> i(portabel ? static_cast<RWvistream*>(new RWpistream(io))
+                                                   : new RWbistream(io));
+            static_cast<qbFormular&>(*gelesen).restoreGuts(*i);
+        } else if (portabel) {
+            RWCollectable* p = nullptr;
             RWpostream o(io);
             o << *form;
             RWpistream i(io);
-            i >> gelesen;
+            i >> p;
+            gelesen.reset(p);
         } else {
+            RWCollectable* p = nullptr;
             RWbostream o(io);
             o << *form;
             RWbistream i(io);
-            i >> gelesen;
+            i >> p;
+            gelesen.reset(p);
         }
-        std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
         erwarteGelesen(k, *form, static_cast<const qbFormular&>(*gelesen),
-                       portabel ? "RWpostream" : "RWbostream");
+                       portabel ? "RWpostream" : "RWbostream", true);
     }
 }
 
@@ -401,7 +427,7 @@ TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) 
             RWbostream s(perTabelle);
             auto tabellen = kette(k);
             for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-                (*t)->schreibe(*form, s);
+                if (!nurAufDatei(k) || *t == &qbFormular::felder()) (*t)->schreibe(*form, s);
         }
         EXPECT_EQ(hex(bytesOf(amStueck.str())), hex(bytesOf(perTabelle.str()))) << langerText;
     }

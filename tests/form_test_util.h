@@ -31,8 +31,12 @@ inline std::string wert(const qbFeld& z, const qbFormular& f) {
         return "Flag " + std::to_string(f.*z.mitglied.flag);
     case qbArt::Int:
         return "Int " + std::to_string(f.*z.mitglied.ganz);
+    case qbArt::Long:
+        return "Long " + std::to_string(f.*z.mitglied.lang);
+    case qbArt::Double:
+        return "Double " + std::to_string(f.*z.mitglied.zahl);
     default:
-        ADD_FAILURE() << "a health form holds no field of this type: " << z.name;
+        ADD_FAILURE() << "no comparison for the type of " << z.name;
         return {};
     }
 }
@@ -61,6 +65,12 @@ inline void fuelleAlle(qbFormular& f, std::initializer_list<const qbFeldTabelle*
                 break;
             case qbArt::Int:
                 f.*z.mitglied.ganz = 70000 + n;
+                break;
+            case qbArt::Long:
+                f.*z.mitglied.lang = -80000 - n;
+                break;
+            case qbArt::Double:
+                f.*z.mitglied.zahl = n + 0.25;
                 break;
             default:
                 ADD_FAILURE() << z.name;
@@ -167,6 +177,18 @@ private:
             const int v = 100000 + n_;
             satz_.ganz(v);
             erwartet_.*z->mitglied.ganz = v;
+            break;
+        }
+        case qbArt::Long: {
+            const long v = -200000 - n_;
+            satz_.lang(v);
+            erwartet_.*z->mitglied.lang = v;
+            break;
+        }
+        case qbArt::Double: {
+            const double v = n_ + 0.75;
+            satz_.zahl(v);
+            erwartet_.*z->mitglied.zahl = v;
             break;
         }
         default:

@@ -30,6 +30,47 @@ inline const std::vector<const qbFeldTabelle*>& kette(const qbKlasse& k) {
     return ketten.at(k.id);
 }
 
+// Forms stored on an RWFile only: their virtual-stream operations are qbFormular's, so a virtual stream
+// carries their header alone.
+inline bool nurAufDatei(const qbKlasse& k) {
+    static const char* const kNurDatei[] = {"qbFormularGS004BUZ", "qbFormularGS004LV", "qbFormularGS004UZ"};
+    for (const char* name : kNurDatei)
+        if (std::string(name) == k.klassenName) return true;
+    return false;
+}
+
+// Forms whose binaryStoreSize is their base's figure although their record is longer.
+inline bool groesseOhneEigeneFelder(const qbKlasse& k) { return nurAufDatei(k); }
+
+// Whether a field of the class (in table t of its chain) comes back from a virtual stream: not for a form
+// stored on an RWFile only (but its header), nor a row its reader leaves on that path (nurAusDatei).
+inline bool kommtUeberVirtuellenStrom(const qbKlasse& k, const qbFeldTabelle& t, const qbFeld& z) {
+    if (nurAufDatei(k)) return &t == &qbFormular::felder();
+    return z.vomVirtuellenStrom;
+}
+
+// Whether the class's reader takes back from a virtual stream all that its writer put there. Not so where
+// a row is written but not read back: in a list such a record leaves the stream out of step, and the
+// vendor's reader of the element raises at its end.
+inline bool liestVirtuellNichtZurueck(const qbKlasse& k);
+inline bool virtuellerSatzGanzLesbar(const qbKlasse& k) {
+    if (liestVirtuellNichtZurueck(k)) return false;
+    if (nurAufDatei(k)) return true;
+    for (const qbKlasse* c = &k; c; c = qbKlasseZuName(c->basisName))
+        for (const qbFeld& z : c->felder())
+            if (!z.vomVirtuellenStrom) return false;
+    return true;
+}
+
+// Whether the class has XML of its own: a form declared without it has no XML keys in its rows, and its
+// XMLgetDat and XMLputDat are qbFormular's.
+inline bool hatEigenesXml(const qbKlasse& k) {
+    if (k.id == qbId_qbFormular) return true;
+    for (const qbFeld& z : k.felder())
+        if (z.xmlSchreibKey || z.xmlLeseKey) return true;
+    return false;
+}
+
 inline std::unique_ptr<qbFormular> erzeuge(const qbKlasse& k) {
     return std::unique_ptr<qbFormular>(static_cast<qbFormular*>(k.erzeuge()));
 }

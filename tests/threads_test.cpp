@@ -56,7 +56,7 @@ std::unique_ptr<qbFormularListe> baueListe(int nr) {
     liste->RefVersion("07.2001");
     for (int i = 0; i < 12; ++i)
         for (const qbKlasse& k : qbKlassen) {
-            if (!*k.nummer || liestVirtuellNichtZurueck(k)) continue;
+            if (!*k.nummer || !virtuellerSatzGanzLesbar(k)) continue; // the list goes on every stream kind
             auto form = erzeuge(k);
             fuelleFormular(k, *form, zufall);
             form->RefPersonenKennung(kPersonen[(i + nr) % 3]);

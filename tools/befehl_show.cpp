@@ -57,6 +57,10 @@ int zeige(const ShowOptionen& o) {
                   << lesbar(utf8(form.RefPersonenKennung())) << "  Version "
                   << lesbar(utf8(form.RefVersion())) << '\n';
         druckeKnoten(std::cout, formularKnoten(form), "  ");
+        if (const auto gespeichert = gespeicherteFelder(form)) {
+            std::cout << "  stored fields (the class has no XML of its own):\n";
+            druckeKnoten(std::cout, *gespeichert, "    ");
+        }
     }
     return kErfolg;
 }
@@ -76,7 +80,8 @@ void richteShowEin(CLI::App& haupt, Befehle& befehle) {
     app->footer(umbrochen(
         "The fields are what each form's own XMLgetDat gives, nested header nodes under their type. Yes/no "
         "answers read ja, nein or nicht beantwortet. A field a class keeps out of its XML is not shown "
-        "(qbformul export --help lists them; qbformul explain shows every stored value). --format xml "
+        "(qbformul export --help lists them; qbformul explain shows every stored value); the fields of a "
+        "class without XML of its own (GS004) follow as stored fields. --format xml "
         "writes the document export writes, with the selected forms. Exit code 1 when no form matches "
         "the selection."));
     befehle.push_back({app, [o] { return zeige(*o); }});

@@ -17,6 +17,47 @@ CQBXMLdata formularKnoten(const qbFormular& form) {
     return knoten;
 }
 
+std::unique_ptr<CQBXMLdata> gespeicherteFelder(const qbFormular& form) {
+    const qbKlasse* klasse = qbKlasseZuId(form.isA());
+    if (!klasse || klasse->felder().size() == 0) return nullptr;
+    for (const qbFeld& z : klasse->felder())
+        if (z.xmlSchreibKey) return nullptr;
+    auto knoten = std::make_unique<CQBXMLdata>("");
+    knoten->clear(klasse->klassenName);
+    for (const qbFeld& z : klasse->felder()) {
+        switch (z.art) {
+        case qbArt::Text:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.text));
+            break;
+        case qbArt::Flag:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.flag));
+            break;
+        case qbArt::Int:
+        case qbArt::Enum:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.ganz));
+            break;
+        case qbArt::Long:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.lang));
+            break;
+        case qbArt::Double:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.zahl));
+            break;
+        case qbArt::Bool:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.wahrheit));
+            break;
+        case qbArt::Char:
+            knoten->List(CQBXMLdata(z.name, static_cast<int>(form.*z.mitglied.zeichen)));
+            break;
+        case qbArt::Date:
+            knoten->List(CQBXMLdata(z.name, form.*z.mitglied.datum));
+            break;
+        case qbArt::Person:
+            break;
+        }
+    }
+    return knoten;
+}
+
 CQBXMLdata anwendungsBaum(const qbFormularListe& liste, const std::vector<unsigned>& positionen) {
     CQBXMLdata baum("");
     baum.clear("qbFormularListe");
@@ -135,6 +176,7 @@ nlohmann::ordered_json formularJson(const qbFormular& form, unsigned position) {
     j["person"] = utf8(form.RefPersonenKennung());
     j["version"] = utf8(form.RefVersion());
     j["fields"] = knotenJson(formularKnoten(form));
+    if (const auto gespeichert = gespeicherteFelder(form)) j["stored fields"] = knotenJson(*gespeichert);
     return j;
 }
 

@@ -9,6 +9,10 @@
 #include "health/qbFormularL141.h"
 #include "health/qbFormularL142.h"
 #include "health/qbFormularL143.h"
+#include "finance/qbFormularGS004.h"
+#include "finance/qbFormularGS004BUZ.h"
+#include "finance/qbFormularGS004LV.h"
+#include "finance/qbFormularGS004UZ.h"
 #include "health/qbFormularL145.h"
 #include "health/qbFormularL146.h"
 #include "health/qbFormularL147.h"
@@ -26,6 +30,7 @@
 #include "sport/qbFormularL454.h"
 #include "sport/qbFormularX278.h"
 
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -1241,6 +1246,108 @@ AltSatz l243Von2001() {
         .text("");                             // MedikamenteWeitererArzt
 }
 
+const char* const kGS004Name = "Finanzielle Risikopr\xFC"
+                               "fung";
+
+// GS004 of a version before 10.2002, in the layout of that version: IBU, EUZ and the occupational pension
+// of Nr 35 to 39 from the year 2000, the sports block from 10.2000, BeschreibungNebenJob from 05.2002. A
+// self-employed carpenter; his education answers come from Berufsausbildung when the record is read.
+AltSatz gs004Von(const std::string& version, const std::string& person) {
+    const int jahr = std::atoi(version.substr(3, 4).c_str());
+    const int schluessel = std::atoi((version.substr(3, 4) + version.substr(0, 2)).c_str());
+    AltSatz s = AltSatz::kopf(version, "GS004", kGS004Name, 4, person);
+    s.flag(1);                                                  // BUZ
+    if (jahr >= 2000) s.flag(0).flag(0);                        // IBU, EUZ
+    s.flag(0).flag(1).flag(1).flag(0);                          // PRZ, LV, UZ, Rue
+    s.flag(1).zahl(120000);                                     // VersorgungsZusageJN, HoeheVersorgungszusage
+    s.text("1994").text("Schreinerei").text("Kunde seit 1990"); // Unternehmensgruendung .. Vermerke
+    s.text("04.1994").text("Inhaber");                          // SelbstaendigSeit, StellungImBetrieb
+    s.flag(1).flag(1).ganz(6); // PraktischTaetigJN, AufsichtsfuehrendJN, Mitarbeiter
+    s.text("M\xF6"
+           "belbau und Innenausbau"); // TaetigkeitsBeschreibung
+    s.text("Realschule")
+        .text("Lehre als Schreiner, Meisterpr\xFC"
+              "fung 1993"); // Schulbildung, Berufsausbildung
+    s.zahl(4200.5);         // Nettoeinkommen
+    s.ganz(jahr - 3).zahl(48000).ganz(jahr - 2).zahl(51000).ganz(jahr - 1).zahl(53500); // Jahre, Einkommen
+    s.zahl(0);                                                                          // weitereEinkommen
+    if (schluessel >= 200205) s.text("Dozent an der Meisterschule"); // BeschreibungNebenJob
+    s.flag(0).flag(0).flag(0).flag(0).flag(1);                       // Sozialversicherung .. keineAnsprueche
+    if (jahr >= 2000) s.flag(0xff).flag(0xff).flag(0xff).text("").text(""); // bVersBUZ .. bVersRente
+    s.text("Absicherung der Familie").text("").text("Wohnhaus");            // Zweck, sonstigeZwecke, Objekt
+    s.zahl(650000).flag(0).text("").flag(0).text("");         // Umsatz, Konkurs, Eidesstattliche V.
+    s.text("Einzelunternehmen");                              // RechtsformDesUnternehmens
+    s.text("Familie").text("").text("Darlehen").zahl(150000); // ZweckUZ .. VerpflichtungenHoehe
+    s.text("Allianz").text("1998").lang(100000);              // GesellschaftUZ, UZseit, UZSumme
+    s.text("").text("").lang(0);                              // GesellschaftLVUZ, LVUZseit, LVUZSumme
+    s.text("Valdorfer").lang(250000);                         // GesellschaftBeantragteVers, Summe
+    if (schluessel >= 200010) {
+        s.flag(1).flag(0).flag(0).flag(1).flags(6, 0); // SportJN, Sport1Profi .. Sport3Freizeit
+        s.text("Segeln").text("").text("").text("").flag(0).text(""); // SportArt1 .. Gefahr
+    }
+    return s;
+}
+
+// BUZ of 10.2003, before HoeheAnwartschaft, the second answers and the Gewinn array; with 12.2003 the
+// Gewinn array stands at the end.
+AltSatz gs004BUZVon(const std::string& version) {
+    AltSatz s = AltSatz::kopf(version, "GS004_001",
+                              "Finanzielle Risikopr\xFC"
+                              "fung BU",
+                              1, "VP1");
+    s.flag(0).flag(0).flag(1).flag(0);            // IBU, EUZ, BUZ, PRZ
+    s.flag(1).text("Schreiner").flag(0).text(""); // LehreJN, Lehre, FachausbildungJN, Fachausbildung
+    s.flag(1).text("1993").flag(0).text("");      // MeisterbriefJN .. Studium
+    s.text("M\xF6"
+           "belbau")
+        .text("Inhaber");                      // TaetigkeitsBeschreibung, StellungImBetrieb
+    s.zahl(51000).zahl(53500).zahl(55000);     // EinkommenInLetztenJahren
+    s.flag(1).flag(0).flag(0).flag(0).flag(0); // keineAnsprueche .. betrieblicheAltersversorgung
+    s.flag(0xff).flag(0xff).flag(0xff).flag(0).flag(0).flag(0);      // bVersBUZ .. bVersPRZBeantragt
+    s.text("").text("");                                             // bVersGesellschaft, bVersRente
+    s.text("Schreinermeister").text("04.1994").flag(0).text("1994"); // TaetigAls .. UnternehmenSeit
+    s.text("30").text("70").text("1").text("").text("5").text("1");  // Prozent .. HandwerklichTeilzeit
+    if (version == "12.2003") s.zahl(38000).zahl(41000).zahl(43500); // GewinnInLetztenJahren
+    return s;
+}
+
+// LV and UZ of 10.2003: one layout behind the header whatever the version.
+AltSatz gs004LVVon2003() {
+    return AltSatz::kopf("10.2003", "GS004_002",
+                         "Finanzielle Risikopr\xFC"
+                         "fung LV",
+                         1, "VP1")
+        .flag(1)
+        .text("Absicherung der Familie")
+        .text("")
+        .text("Wohnhaus") // LV, Zweck, sonstigeZwecke, Objekt
+        .text("Einzelunternehmen")
+        .text("Schreinerei")
+        .text("Inhaber")
+        .text("04.1994") // Rechtsform .. SelbstaendigSeit
+        .zahl(4200.5)
+        .zahl(650000) // Nettoeinkommen, UnternehmensUmsatz
+        .flag(0)
+        .text("")
+        .flag(0)
+        .text(""); // KonkursJN .. AngabenZuEidesstattlicherVersicherung
+}
+
+AltSatz gs004UZVon2003() {
+    AltSatz s = AltSatz::kopf("10.2003", "GS004_003",
+                              "Finanzielle Risikopr\xFC"
+                              "fung UZ",
+                              1, "VP1");
+    s.flag(1).text("Familie").text("").text("Darlehen").zahl(150000);      // UZ ..
+                                                                           // VerpflichtungenBeiUnfallTodHoehe
+    s.zahl(4200.5).zahl(0);                                                // Nettoeinkommen, weitereEinkommen
+    s.text("Allianz").text("1998").lang(100000).text("").text("").lang(0); // GesellschaftUZ .. LVUZSumme
+    s.text("Valdorfer").lang(250000).flag(1);                              // Beantragte, SportJN
+    s.text("Segeln").flag(0).flag(0).flag(1);                              // SportArt1 and its flags
+    s.text("").flags(3, 0).text("").flags(3, 0);                           // SportArt2, SportArt3 and theirs
+    return s.text("").flag(0).text("");                                    // ArtWettkampf, GefahrJN, Gefahr
+}
+
 } // namespace
 
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
@@ -1276,6 +1383,15 @@ std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
         {qbFormularL134::classIsA(), l134Von2002()},
         {qbFormularL139::classIsA(), l139Von200807()},
         {qbFormularL139::classIsA(), l139Von200808()},
+        {qbFormularGS004::classIsA(), gs004Von("09.1999", "VP1")},
+        {qbFormularGS004::classIsA(), gs004Von("03.2000", "VP2")},
+        {qbFormularGS004::classIsA(), gs004Von("10.2000", "VN")},
+        {qbFormularGS004::classIsA(), gs004Von("11.2001", "VP1")},
+        {qbFormularGS004::classIsA(), gs004Von("05.2002", "VP2")},
+        {qbFormularGS004BUZ::classIsA(), gs004BUZVon("10.2003")},
+        {qbFormularGS004BUZ::classIsA(), gs004BUZVon("12.2003")},
+        {qbFormularGS004LV::classIsA(), gs004LVVon2003()},
+        {qbFormularGS004UZ::classIsA(), gs004UZVon2003()},
     };
 }
 

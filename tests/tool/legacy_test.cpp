@@ -2,6 +2,10 @@
 // tool.
 #include "anwendungen.h"
 
+#include "finance/qbFormularGS004.h"
+#include "finance/qbFormularGS004BUZ.h"
+#include "finance/qbFormularGS004LV.h"
+#include "finance/qbFormularGS004UZ.h"
 #include "health/qbFormularL134.h"
 #include "health/qbFormularL138.h"
 #include "health/qbFormularL139.h"
@@ -173,6 +177,40 @@ TEST(ToolLegacyBeispiel, LibraryReadsTheOldHealthRecordsIntoTheirFields) {
     EXPECT_EQ(formAn<qbFormularL139>(*liste, 29).RefArztAdresse(), "Dr. Hahn, Lindenallee 4, Trier");
     EXPECT_EQ(formAn<qbFormularL139>(*liste, 30).RefArztName(), "Dr. Hahn");
     EXPECT_EQ(formAn<qbFormularL139>(*liste, 30).RefBehandlungMedikamenteArt(), "Betahistin");
+}
+
+// GS004 in every layout of its history, and the split checks of 10.2003 and 12.2003.
+TEST(ToolLegacyBeispiel, LibraryReadsTheFinancialRiskChecksOfEveryLayout) {
+    const std::unique_ptr<qbFormularListe> liste = lies(legacyBeispiel());
+    ASSERT_GE(liste->AnzahlFormulare(), 40u);
+    // GS004 of 09.1999: no IBU, EUZ, pension answers of 2000 nor sports; the education answers derived.
+    const auto& gs1999 = static_cast<const qbFormularGS004&>(*liste->liefereFormularAnPos(31));
+    EXPECT_EQ(gs1999.RefIBU(), 0);
+    EXPECT_EQ(gs1999.RefbVersBUZ(), 0xff);
+    EXPECT_EQ(gs1999.RefSportJN(), 0xff);
+    EXPECT_EQ(gs1999.RefJahre(0), 1996);
+    EXPECT_EQ(gs1999.RefEinkommenInLetztenJahren(2), 53500.0);
+    EXPECT_EQ(gs1999.RefBeantragteVersSumme(), 250000L);
+    EXPECT_EQ(gs1999.RefLehreJN(), 1);
+    EXPECT_EQ(gs1999.RefMeisterbriefJN(), 1);
+    EXPECT_EQ(gs1999.RefStudiumJN(), 0);
+    // 10.2000: the sports block; 05.2002: BeschreibungNebenJob.
+    EXPECT_EQ(static_cast<const qbFormularGS004&>(*liste->liefereFormularAnPos(32)).RefSportArt1(), "");
+    EXPECT_EQ(static_cast<const qbFormularGS004&>(*liste->liefereFormularAnPos(33)).RefSportArt1(), "Segeln");
+    const auto& gs2002 = static_cast<const qbFormularGS004&>(*liste->liefereFormularAnPos(35));
+    EXPECT_EQ(gs2002.RefBeschreibungNebenJob(), "Dozent an der Meisterschule");
+    EXPECT_EQ(gs2002.RefPersonenKennung(), "VP2");
+    EXPECT_EQ(gs2002.RefJahre(2), 2001);
+    const auto& buz2003 = static_cast<const qbFormularGS004BUZ&>(*liste->liefereFormularAnPos(36));
+    EXPECT_EQ(buz2003.RefGewinnInLetztenJahren(0), 0.0);
+    EXPECT_EQ(buz2003.RefHandwerklichTeilzeit(), "1");
+    const auto& buzDez = static_cast<const qbFormularGS004BUZ&>(*liste->liefereFormularAnPos(37));
+    EXPECT_EQ(buzDez.RefGewinnInLetztenJahren(2), 43500.0);
+    EXPECT_EQ(buzDez.RefbVersBUZ2(), 0xff);
+    EXPECT_EQ(static_cast<const qbFormularGS004LV&>(*liste->liefereFormularAnPos(38)).RefObjekt(),
+              "Wohnhaus");
+    EXPECT_EQ(static_cast<const qbFormularGS004UZ&>(*liste->liefereFormularAnPos(39)).RefSportArt1(),
+              "Segeln");
 }
 
 TEST(ToolLegacyBeispiel, EveryRecordEndsWhereTheNextBegins) {

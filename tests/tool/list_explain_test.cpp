@@ -136,6 +136,8 @@ TEST_F(ToolList, MarksRecordsOlderThanTheirClass) {
     EXPECT_TRUE(hatZeile(lauf.aus, "qbFormularL440 +L440 .* 08\\.2005 +08\\.2005 +[0-9]+$")) << lauf.aus;
     EXPECT_TRUE(hatZeile(lauf.aus, "qbFormularL451 +L451 .* 11\\.2001 +04\\.2005 \\*")) << lauf.aus;
     EXPECT_TRUE(hatZeile(lauf.aus, "qbFormularL036 +L036 .* 11\\.2001 +11\\.2001 +[0-9]+$")) << lauf.aus;
+    EXPECT_TRUE(hatZeile(lauf.aus, "qbFormularGS004 +GS004 .* 09\\.1999 +10\\.2002 \\*")) << lauf.aus;
+    EXPECT_TRUE(hatZeile(lauf.aus, "qbFormularGS004BUZ +GS004_001 .* 12\\.2003 +03\\.2009 \\*")) << lauf.aus;
     EXPECT_TRUE(
         enthaelt(lauf.aus, "* " + std::to_string(legacyBeispielAeltere()) + " records have an older layout"))
         << lauf.aus;
@@ -193,6 +195,18 @@ TEST_F(ToolExplain, NamesTheOldLayoutsAndTheValuesTheyDrop) {
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL141: 10\\.1999$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL134: vor 05\\.2002$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "^  layout of qbFormularL139: vor 08\\.2009$"));
+    // GS004: each record names the layout its version took.
+    for (const char* layout : {"vor 2000", "vor 10\\.2000", "vor 05\\.2002", "vor 10\\.2002"})
+        EXPECT_TRUE(hatZeile(lauf.aus, std::string("^  layout of qbFormularGS004: ") + layout + "$"))
+            << layout;
+    EXPECT_TRUE(
+        hatZeile(lauf.aus, "^ +[0-9]+ +4\\+27 +Text +BeschreibungNebenJob +\"Dozent an der Meisterschule\"$"))
+        << lauf.aus;
+    EXPECT_TRUE(hatZeile(lauf.aus,
+                         "^  layout of qbFormularGS004BUZ: aktuelle Tabelle ohne HoeheAnwartschaft, "
+                         "bVersBUZ2, bVersEUZ2, bVersPRZ2, GewinnInLetztenJahren_0, "
+                         "GewinnInLetztenJahren_1, GewinnInLetztenJahren_2$"));
+    EXPECT_TRUE(hatZeile(lauf.aus, "^ +[0-9]+ +8 +Double +EinkommenInLetztenJahren_0 +48000(\\.0+)?$"));
     EXPECT_TRUE(hatZeile(lauf.aus, "Text +\\(read, not kept\\) +\"\"$"));
     EXPECT_TRUE(enthaelt(lauf.aus, "Every record ends exactly where the next form begins"));
 }
