@@ -7,6 +7,7 @@
 #include "rw/vstream.h"
 
 #include <atomic>
+#include <cassert>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -69,7 +70,7 @@ void schreibeWert(Strom& s, qbArt art, const T& v) {
 template <class Strom>
 void schreibeZeilen(const qbFeldTabelle& tabelle, const qbFormular& form, Strom& s) {
     for (const qbFeld& z : tabelle)
-        mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
+        if (z.aufStrom) mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
 }
 
 } // namespace
@@ -83,6 +84,16 @@ const qbFeld* qbFeldTabelle::suche(const char* name) const {
 void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
     for (const qbFeld& z : *this)
         mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });
+}
+
+void qbFeldTabelle::kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
+                                  std::initializer_list<const char*> ausser) const {
+    for (const qbFeld& z : *this) {
+        bool bleibt = false;
+        for (const char* name : ausser)
+            bleibt = bleibt || std::strcmp(z.name, name) == 0;
+        if (!bleibt) mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });
+    }
 }
 
 // ---- Streams
@@ -213,6 +224,7 @@ void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) 
 // A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
 // the Version read just before it.
 static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
+    if (!z.aufStrom) return false;
     if (z.liesAbSchluessel == 0 && !z.liesWenn) return true;
     return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()));
 }
@@ -229,14 +241,17 @@ void qbFeldTabelle::lies(qbFormular& form, RWFile& f) const {
         if (gehoertZumLayout(z, form)) liesZeileAus(z, &form, f, nullptr);
 }
 
-void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
-    for (const qbFeld& z : *this)
-        if (gehoertZumLayout(z, form)) liesZeile(z, &form, s);
+void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const { lies(form, s, 0); }
+
+void qbFeldTabelle::lies(qbFormular& form, RWvistream& s, size_t ab) const {
+    for (const qbFeld* z = begin() + (ab < size() ? ab : size()); z != end(); ++z)
+        if (gehoertZumLayout(*z, form)) liesZeile(*z, &form, s);
 }
 
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
+        if (!z.aufStrom) continue;
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
     }
@@ -249,20 +264,56 @@ RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
 template <class T>
 constexpr bool hatXmlWert = !std::is_same_v<T, char> && !std::is_same_v<T, qbPerson>;
 
+namespace {
+
+void xmlSchreibeZeile(const qbFeld& z, const qbFormular& form, CQBXMLdata& knoten) {
+    if (z.xmlSchreibKey)
+        mitMitglied(z, [&](auto m) {
+            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+                knoten.List(CQBXMLdata(z.xmlSchreibKey, form.*m));
+        });
+}
+
+// An Enum comes back through the value's variant form: whatever number the tree holds, and 0 for a
+// missing key.
+void xmlLiesZeile(const qbFeld& z, qbFormular& form, const CQBXMLdata& knoten) {
+    if (!z.xmlLeseKey) return;
+    if (z.art == qbArt::Enum) {
+        form.*z.mitglied.ganz = knoten.Listvalue(z.xmlLeseKey).asInt();
+        return;
+    }
+    mitMitglied(z, [&](auto m) {
+        if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+            knoten.Listvalue(z.xmlLeseKey, form.*m);
+    });
+}
+
+} // namespace
+
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        if (z.xmlSchreibKey)
-            mitMitglied(z, [&](auto m) {
-                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
-                    knoten.List(CQBXMLdata(z.xmlSchreibKey, form.*m));
-            });
+        xmlSchreibeZeile(z, form, knoten);
 }
 
 void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
     for (const qbFeld& z : *this)
-        if (z.xmlLeseKey)
-            mitMitglied(z, [&](auto m) {
-                if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
-                    knoten.Listvalue(z.xmlLeseKey, form.*m);
-            });
+        xmlLiesZeile(z, form, knoten);
+}
+
+void qbFeldTabelle::xmlSchreibeFolge(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge,
+                                     size_t n) const {
+    for (size_t i = 0; i < n; ++i) {
+        const qbFeld* z = suche(folge[i]);
+        assert(z && "an XML order names a field the table does not have");
+        if (z) xmlSchreibeZeile(*z, form, knoten);
+    }
+}
+
+void qbFeldTabelle::xmlLiesFolge(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge,
+                                 size_t n) const {
+    for (size_t i = 0; i < n; ++i) {
+        const qbFeld* z = suche(folge[i]);
+        assert(z && "an XML order names a field the table does not have");
+        if (z) xmlLiesZeile(*z, form, knoten);
+    }
 }

@@ -16,6 +16,7 @@
 #include "qballg/qbPerson.h"
 
 #include <cstddef>
+#include <initializer_list>
 
 class CQBXMLdata;
 class RWFile;
@@ -34,7 +35,8 @@ class qbFormular;
 //   Date    RWDate         its day number, 4 bytes (RWFile only)
 //   Person  qbPerson       its own record (RWFile only)
 //   Enum    int            an enumeration held as int, stored as its low byte through a Char and read
-//                          back sign-extended
+//                          back sign-extended; from XML through the value's variant form, converted to
+//                          int (a missing key gives 0)
 enum class qbArt : unsigned char { Text, Flag, Char, Bool, Int, Long, Double, Date, Person, Enum };
 
 // The fixed bytes of a value on RWFile: a Text's length (its characters come on top); 0 for a Person, whose
@@ -81,6 +83,7 @@ struct qbFeld {
     const char* standardText;  // default of Text
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
+    bool aufStrom = true;                     // the field goes on the streams (false: object and XML only)
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -101,6 +104,9 @@ struct qbFeld {
     constexpr qbFeld nurXmlSchreiben() const { // written to XML, never read back
         return mit([](qbFeld& f) { f.xmlLeseKey = nullptr; });
     }
+    constexpr qbFeld nurXmlLesen() const { // read from XML, never written to it
+        return mit([](qbFeld& f) { f.xmlSchreibKey = nullptr; });
+    }
     constexpr qbFeld ohneXml() const {
         return mit([](qbFeld& f) { f.xmlSchreibKey = f.xmlLeseKey = nullptr; });
     }
@@ -118,6 +124,9 @@ struct qbFeld {
     }
     constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
         return mit([&](qbFeld& f) { f.liesWenn = bedingung; });
+    }
+    constexpr qbFeld nichtAufStrom() const { // held by the object and its XML, never stored
+        return mit([](qbFeld& f) { f.aufStrom = false; });
     }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
@@ -170,7 +179,7 @@ struct qbFeld {
 
 private:
     static constexpr qbFeld zeile(qbArt art, const char* name, Mitglied m) {
-        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr};
+        return qbFeld{art, name, m, name, name, true, 0, 0.0, "", 0, nullptr, true};
     }
 };
 
@@ -190,12 +199,17 @@ public:
     const qbFeld* suche(const char* name) const; // the row of a field, or null
 
     void kopiere(qbFormular& ziel, const qbFormular& quelle) const;
+    // Every field but the named ones, which keep the target's values.
+    void kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
+                       std::initializer_list<const char*> ausser) const;
 
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;
     // Reads the rows that belong to the layout of the form's Version (see liesAb, liesNurWenn).
     void lies(qbFormular& form, RWFile& f) const;
     void lies(qbFormular& form, RWvistream& s) const;
+    // The same from the row at index ab on: a reader that has the first rows' values already.
+    void lies(qbFormular& form, RWvistream& s, size_t ab) const;
     // Reads one row, or a value of that type that is thrown away when form is null.
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWvistream& s);
@@ -206,8 +220,22 @@ public:
 
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
+    // The same in an order of the form's own, by field name; a name may stand more than once (its key
+    // then goes into the tree, or is read from it, once per mention).
+    template <size_t N>
+    void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const (&folge)[N]) const {
+        xmlSchreibeFolge(form, knoten, folge, N);
+    }
+    template <size_t N>
+    void xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const (&folge)[N]) const {
+        xmlLiesFolge(form, knoten, folge, N);
+    }
 
 private:
+    void xmlSchreibeFolge(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge,
+                          size_t n) const;
+    void xmlLiesFolge(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge, size_t n) const;
+
     const char* klasse_;
     const qbFeld* zeilen_;
     size_t anzahl_;

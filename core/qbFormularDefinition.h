@@ -18,12 +18,17 @@
 // ---- In the form's .cpp
 
 // One row of a field list as code: written, or read when the stored version's layout holds it.
-#define QB_FELD_SCHREIBEN(Typ, Name, ...) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);
+#define QB_FELD_SCHREIBEN(Typ, Name, ...)                                                                    \
+    {                                                                                                        \
+        static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
+        if constexpr (zeile.aufStrom) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);                            \
+    }
 #define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
     {                                                                                                        \
         static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
-        if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))        \
-            qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                          \
+        if constexpr (zeile.aufStrom)                                                                        \
+            if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))    \
+                qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                      \
     }
 #define QB_FELD_STANDARD(Typ, Name, ...)                                                                     \
     {                                                                                                        \
@@ -45,6 +50,7 @@
 #define QB_FELDER_ALS_CODE(Klasse, Felder)                                                                   \
     template <class Strom>                                                                                   \
     void Klasse::schreibeEigene(Strom& strom) const {                                                        \
+        using Selbst = Klasse;                                                                               \
         auto schreibe = [this](auto& s) { Felder(QB_FELD_SCHREIBEN) };                                       \
         if constexpr (std::is_same_v<Strom, RWFile> || std::is_same_v<Strom, RWvostream>)                    \
             qbSchreibeAmStueck(strom, schreibe);                                                             \
@@ -54,7 +60,7 @@
     template <class Strom>                                                                                   \
     void Klasse::liesEigene(Strom& strom) {                                                                  \
         using Selbst = Klasse;                                                                               \
-        /* The stored version's key, worked out at the first row that depends on it. */                     \
+        /* The stored version's key, worked out at the first row that depends on it. */                      \
         int gemerkt = 0;                                                                                     \
         [[maybe_unused]] auto schluessel = [&] {                                                             \
             return gemerkt ? gemerkt : gemerkt = versionsSchluessel();                                       \
@@ -71,24 +77,31 @@
         Felder(QB_FELD_STANDARD)                                                                             \
     }
 
-// Identity, field table, copy construction and assignment (base first, then the own fields), and the
-// entry points of the class table (creator, copy for the list, assignment for the list, XML import).
-#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+// Identity, field table, and the entry points of the class table (creator, copy for the list, assignment
+// for the list, XML import).
+#define QB_FORMULAR_KERN(Klasse, Felder)                                                                     \
     unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
     unsigned short Klasse::classIsA() { return myAtom; }                                                     \
     RWClassID Klasse::isA() const { return myAtom; }                                                         \
     RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
     RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
     QB_FELDTABELLE(Klasse, Felder)                                                                           \
+    Klasse::~Klasse() = default;                                                                             \
+    QB_FELDER_ALS_CODE(Klasse, Felder)                                                                       \
+    QB_KLASSEN_EINSTIEG(Klasse)
+
+// Copy construction and assignment: base first, then the own fields.
+#define QB_FORMULAR_KOPIE(Klasse)                                                                            \
     Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
     Klasse& Klasse::operator=(const Klasse& other) {                                                         \
         Basisklasse::operator=(other);                                                                       \
         felder().kopiere(*this, other);                                                                      \
         return *this;                                                                                        \
-    }                                                                                                        \
-    Klasse::~Klasse() = default;                                                                             \
-    QB_FELDER_ALS_CODE(Klasse, Felder)                                                                       \
-    QB_KLASSEN_EINSTIEG(Klasse)
+    }
+
+#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+    QB_FORMULAR_KERN(Klasse, Felder)                                                                         \
+    QB_FORMULAR_KOPIE(Klasse)
 
 // Default constructor: the base's defaults, the own fields' defaults, then the header constants of the
 // class table.

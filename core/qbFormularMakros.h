@@ -19,10 +19,18 @@
 //   TextKopie    getter and setter pass the text by value
 //   TextWert     setter takes the text by value
 //   IntKonstRef  setter takes a const int&
+//   <Typ>Eigen   no generated accessors: the form writes its own (TextEigen, BoolEigen, DateEigen ...)
+//   Get<Typ>     Get<Name>() and Set<Name>(v) instead of Ref<Name> (GetText, GetFlag, GetInt, GetDouble)
+//
+// An array of n entries is a row per entry, Name_i, with the XML key "Name[i]" (QB_EINTRAG); a group of
+// arrays that a stream or XML walks index by index lists its rows pass by pass (QB_DURCHLAEUFE_n), and
+// QB_EINTRAEGE gives the entries' members by index for the form's accessors.
 #pragma once
 
 #include "core/qbFeld.h"
 #include "core/qbFormular.h"
+
+#include <type_traits>
 
 // ---- Member types and accessors per field type
 
@@ -39,6 +47,18 @@
 #define QB_MITGLIED_Date RWDate
 #define QB_MITGLIED_Person qbPerson
 #define QB_MITGLIED_Enum int
+#define QB_MITGLIED_TextEigen RWCString
+#define QB_MITGLIED_FlagEigen unsigned char
+#define QB_MITGLIED_BoolEigen bool
+#define QB_MITGLIED_IntEigen int
+#define QB_MITGLIED_LongEigen long
+#define QB_MITGLIED_DoubleEigen double
+#define QB_MITGLIED_DateEigen RWDate
+#define QB_MITGLIED_EnumEigen int
+#define QB_MITGLIED_GetText RWCString
+#define QB_MITGLIED_GetFlag unsigned char
+#define QB_MITGLIED_GetInt int
+#define QB_MITGLIED_GetDouble double
 
 #define QB_ZEILE_Text Text
 #define QB_ZEILE_TextKopie Text
@@ -53,6 +73,18 @@
 #define QB_ZEILE_Date Date
 #define QB_ZEILE_Person Person
 #define QB_ZEILE_Enum Enum
+#define QB_ZEILE_TextEigen Text
+#define QB_ZEILE_FlagEigen Flag
+#define QB_ZEILE_BoolEigen Bool
+#define QB_ZEILE_IntEigen Int
+#define QB_ZEILE_LongEigen Long
+#define QB_ZEILE_DoubleEigen Double
+#define QB_ZEILE_DateEigen Date
+#define QB_ZEILE_EnumEigen Enum
+#define QB_ZEILE_GetText Text
+#define QB_ZEILE_GetFlag Flag
+#define QB_ZEILE_GetInt Int
+#define QB_ZEILE_GetDouble Double
 
 #define QB_ZUGRIFF_WERT(T, Name)                                                                             \
     T Ref##Name() const { return Name; }                                                                     \
@@ -78,6 +110,62 @@
 #define QB_ZUGRIFF_Date(Name) QB_ZUGRIFF_REF(RWDate, Name)
 #define QB_ZUGRIFF_Person(Name) QB_ZUGRIFF_REF(qbPerson, Name)
 #define QB_ZUGRIFF_Enum(Name) QB_ZUGRIFF_WERT(int, Name)
+#define QB_ZUGRIFF_TextEigen(Name)
+#define QB_ZUGRIFF_FlagEigen(Name)
+#define QB_ZUGRIFF_BoolEigen(Name)
+#define QB_ZUGRIFF_IntEigen(Name)
+#define QB_ZUGRIFF_LongEigen(Name)
+#define QB_ZUGRIFF_DoubleEigen(Name)
+#define QB_ZUGRIFF_DateEigen(Name)
+#define QB_ZUGRIFF_EnumEigen(Name)
+#define QB_ZUGRIFF_GetText(Name)                                                                             \
+    const RWCString& Get##Name() const { return Name; }                                                      \
+    void Set##Name(const RWCString& v) { Name = v; }
+#define QB_ZUGRIFF_GetFlag(Name)                                                                             \
+    unsigned char Get##Name() const { return Name; }                                                         \
+    void Set##Name(unsigned char v) { Name = v; }
+#define QB_ZUGRIFF_GetInt(Name)                                                                              \
+    const int& Get##Name() const { return Name; }                                                            \
+    void Set##Name(const int& v) { Name = v; }
+#define QB_ZUGRIFF_GetDouble(Name)                                                                           \
+    double Get##Name() const { return Name; }                                                                \
+    void Set##Name(const double& v) { Name = v; }
+
+// ---- Arrays
+
+// Entry i of the array Name as a row of its own: member Name_i, XML key "Name[i]", no generated accessors.
+#define QB_EINTRAG(FELD, Typ, Name, i, ...) FELD(Typ##Eigen, Name##_##i, .xml(#Name "[" #i "]") __VA_ARGS__)
+// The rows of all passes, index by index: Durchlauf(FELD, i) lists the rows of pass i.
+#define QB_DURCHLAEUFE_2(Durchlauf, FELD) Durchlauf(FELD, 0) Durchlauf(FELD, 1)
+#define QB_DURCHLAEUFE_10(Durchlauf, FELD)                                                                   \
+    QB_DURCHLAEUFE_2(Durchlauf, FELD)                                                                        \
+    Durchlauf(FELD, 2) Durchlauf(FELD, 3) Durchlauf(FELD, 4) Durchlauf(FELD, 5) Durchlauf(FELD, 6)           \
+        Durchlauf(FELD, 7) Durchlauf(FELD, 8) Durchlauf(FELD, 9)
+// In the class body: Name##_Eintrag(i), the member of entry i of an array of n (2 or 10) entries. The
+// index is not checked, as the accessors that use it do not check theirs.
+#define QB_EINTRAG_ZEIGER_2(K, N) &K::N##_0, &K::N##_1
+#define QB_EINTRAG_ZEIGER_10(K, N)                                                                           \
+    QB_EINTRAG_ZEIGER_2(K, N), &K::N##_2, &K::N##_3, &K::N##_4, &K::N##_5, &K::N##_6, &K::N##_7, &K::N##_8,  \
+        &K::N##_9
+#define QB_EINTRAEGE(Klasse, T, Name, n)                                                                     \
+    static auto Name##_Eintrag(int i) {                                                                      \
+        static constexpr T Klasse::*eintraege[] = {QB_EINTRAG_ZEIGER_##n(Klasse, Name)};                     \
+        return eintraege[i];                                                                                 \
+    }
+// Accessors of an array by index: Get<Name>(i) and Set<Name>(i, v), the index first ...
+#define QB_REIHE_INDEX_ZUERST(Klasse, T, Name, n)                                                            \
+    QB_EINTRAEGE(Klasse, T, Name, n)                                                                         \
+    const T& Get##Name(int i) const { return this->*Name##_Eintrag(i); }                                     \
+    void Set##Name(int i, const T& v) { this->*Name##_Eintrag(i) = v; }
+// ... or Set<Name>(v, i), the value first; a text by reference, a number by value.
+#define QB_REIHE_WERT_ZUERST(Klasse, T, Name, n)                                                             \
+    QB_EINTRAEGE(Klasse, T, Name, n)                                                                         \
+    std::conditional_t<std::is_class_v<T>, const T&, T> Get##Name(int i) const {                             \
+        return this->*Name##_Eintrag(i);                                                                     \
+    }                                                                                                        \
+    void Set##Name(std::conditional_t<std::is_class_v<T>, const T&, T> v, int i) {                           \
+        this->*Name##_Eintrag(i) = v;                                                                        \
+    }
 
 // Expansions of one row of a field list.
 #define QB_FELD_ZUGRIFF(Typ, Name, ...) QB_ZUGRIFF_##Typ(Name)

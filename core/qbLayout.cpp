@@ -15,11 +15,10 @@ const qbFeld* sucheZeile(const char* name, std::initializer_list<const qbFeldTab
 
 template <class Strom>
 void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
-                  std::initializer_list<const qbFeldTabelle*> tabellen) {
-    const int schluessel = qbVersionsSchluessel(form.RefVersion());
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long schluessel) {
     for (size_t i = 0; i < layout.anzahl; ++i) {
         const qbSchritt& schritt = layout.schritte[i];
-        if (schluessel < schritt.abSchluessel) continue;
+        if (!schritt.gehoertZu(schluessel)) continue;
         if (!schritt.feld) {
             qbFeld weg{};
             weg.art = schritt.verworfen;
@@ -36,13 +35,23 @@ void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
 
 void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen) {
-    qbMeldeLayout(tabellen.size() ? (*tabellen.begin())->klasse() : "", layout.name);
-    liesSchritte(form, f, layout, tabellen);
+    qbLiesLayout(form, f, layout, tabellen, qbVersionsSchluessel(form.RefVersion()));
 }
 
 void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen) {
-    liesSchritte(form, s, layout, tabellen);
+    qbLiesLayout(form, s, layout, tabellen, qbVersionsSchluessel(form.RefVersion()));
+}
+
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel) {
+    qbMeldeLayout(tabellen.size() ? (*tabellen.begin())->klasse() : "", layout.name);
+    liesSchritte(form, f, layout, tabellen, versionsSchluessel);
+}
+
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel) {
+    liesSchritte(form, s, layout, tabellen, versionsSchluessel);
 }
 
 void qbMeldeLayout(const char* klasse, const char* layout) {

@@ -13,13 +13,24 @@
 struct qbSchritt {
     const char* feld; // null: a value of type verworfen, read and thrown away
     qbArt verworfen;
-    int abSchluessel = 0; // the step belongs only to records whose version key is at least this
+    int abSchluessel = 0;  // the step belongs only to records whose version key is at least this
+    int vorSchluessel = 0; // and, unless 0, only to records whose key is below this
     constexpr qbSchritt(const char* name) : feld(name), verworfen(qbArt::Text) {}
     constexpr explicit qbSchritt(qbArt art) : feld(nullptr), verworfen(art) {}
     constexpr qbSchritt ab(int versionsSchluessel) const {
         qbSchritt s = *this;
         s.abSchluessel = versionsSchluessel;
         return s;
+    }
+    // The value went with that version: only older records hold it.
+    constexpr qbSchritt vor(int versionsSchluessel) const {
+        qbSchritt s = *this;
+        s.vorSchluessel = versionsSchluessel;
+        return s;
+    }
+    constexpr bool gehoertZu(long versionsSchluessel) const {
+        return versionsSchluessel >= abSchluessel &&
+               (vorSchluessel == 0 || versionsSchluessel < vorSchluessel);
     }
 };
 
@@ -31,6 +42,7 @@ constexpr qbSchritt Char{qbArt::Char};
 constexpr qbSchritt Int{qbArt::Int};
 constexpr qbSchritt Long{qbArt::Long};
 constexpr qbSchritt Double{qbArt::Double};
+constexpr qbSchritt Date{qbArt::Date};
 } // namespace qbVerworfen
 
 struct qbLayout {
@@ -47,6 +59,11 @@ void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen);
 void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen);
+// The same for a form whose version key follows a rule of its own: the steps are chosen by that key.
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel);
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel);
 
 // Tells an installed read observer which layout a restore chose.
 void qbMeldeLayout(const char* klasse, const char* layout);
