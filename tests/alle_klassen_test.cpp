@@ -53,6 +53,27 @@ void erwarteGleich(const qbKlasse& k, const qbFormular& a, const qbFormular& b, 
             EXPECT_EQ(feldAlsText(z, a), feldAlsText(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
 }
 
+// After a stream's round trip: the fields that go on a stream as they were saved, the others as a new
+// object has them.
+void erwarteGleichNachStrom(const qbKlasse& k, const qbFormular& gespeichert, const qbFormular& gelesen,
+                            const std::string& wo) {
+    const auto frisch = erzeuge(k);
+    for (const qbFeldTabelle* t : kette(k))
+        for (const qbFeld& z : *t)
+            EXPECT_EQ(feldAlsText(z, gelesen), feldAlsText(z, z.aufStrom ? gespeichert : *frisch))
+                << wo << ": " << k.klassenName << "::" << z.name;
+}
+
+// The record the tables write, with the second Version of the classes that write one behind the header.
+template <class Strom>
+void tabellenSchreiben(const qbKlasse& k, const qbFormular& form, Strom& s) {
+    auto tabellen = kette(k);
+    for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t) {
+        (*t)->schreibe(form, s);
+        if (*t == &qbFormular::felder() && abweichung(k).zweiteVersion) form.RefVersion().saveOn(s);
+    }
+}
+
 // Bytes of saveGuts(RWFile&) alone.
 size_t gespeicherteBytes(const qbFormular& form) {
     TempFile tmp("groesse");
@@ -66,6 +87,11 @@ size_t gespeicherteBytes(const qbFormular& form) {
 // The figure binaryStoreSize must give: the bytes written, except where the class leaves something out
 // on purpose.
 size_t erwarteteGroesse(const qbFormular& form, size_t bytes) {
+    // Some classes count their header alone, whatever their fields hold.
+    if (abweichung(*qbKlasseZuId(form.isA())).groesseNurKopf) {
+        EXPECT_LT(form.qbFormular::binaryStoreSize(), bytes);
+        return form.qbFormular::binaryStoreSize();
+    }
     // The health family leaves the characters of AntwortZuFrage out of the sum.
     if (const auto* gesu = dynamic_cast<const qbFormularAllgGesu*>(&form))
         return bytes - gesu->RefAntwortZuFrage().length();
@@ -129,7 +155,7 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
         ASSERT_EQ(gelesen->isA(), k.id);
-        erwarteGleich(k, *form, static_cast<const qbFormular&>(*gelesen), "RWFile");
+        erwarteGleichNachStrom(k, *form, static_cast<const qbFormular&>(*gelesen), "RWFile");
         int ende;
         EXPECT_FALSE(f.Read(ende)) << "the reader stopped before the record's end";
     }
@@ -137,6 +163,8 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
 
 TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
     const qbKlasse& k = *GetParam();
+    // A pension form arrives as a new object; an activity description cannot be read back (their tests).
+    if (abweichung(k).virtuellUnlesbar) GTEST_SKIP() << "its virtual-stream record cannot be read back";
     for (bool portabel : {false, true}) {
         auto form = zufallsFormular(k, 7);
         std::stringstream io;
@@ -154,8 +182,8 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
         }
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
-        erwarteGleich(k, *form, static_cast<const qbFormular&>(*gelesen),
-                      portabel ? "RWpostream" : "RWbostream");
+        erwarteGleich(k, abweichung(k).nichtsAufVirtuellemStrom ? *erzeuge(k) : *form,
+                      static_cast<const qbFormular&>(*gelesen), portabel ? "RWpostream" : "RWbostream");
     }
 }
 
@@ -170,6 +198,10 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
     ASSERT_TRUE(gelesenerKnoten.fromXML(knoten.asXML()));
     std::unique_ptr<qbFormular> gelesen(k.ausXml(gelesenerKnoten));
     auto frisch = erzeuge(k);
+    if (abweichung(k).xmlUnterFremdemTyp) { // the class's own XMLputDat refuses the node
+        erwarteGleich(k, *frisch, *gelesen, "XML");
+        return;
+    }
     const bool kopfWirdGelesen =
         std::string(k.basisName) == "qbFormular" || std::string(k.klassenName) == "qbFormular";
     const auto tabellen = kette(k);
@@ -259,7 +291,7 @@ TEST_P(JedeKlasse, GeneratedReadAndTableReadOfTheCurrentLayoutAgree) {
     ASSERT_TRUE(direkt && perTabelle);
     erwarteGleich(k, static_cast<const qbFormular&>(*direkt), static_cast<const qbFormular&>(*perTabelle),
                   "table read");
-    erwarteGleich(k, *form, static_cast<const qbFormular&>(*direkt), "generated read");
+    erwarteGleichNachStrom(k, *form, static_cast<const qbFormular&>(*direkt), "generated read");
 }
 
 namespace {
@@ -372,9 +404,7 @@ TEST_P(JedeKlasse, InPlaceWriteAndTableWriteOfTheCurrentLayoutGiveTheSameBytes) 
     }
     {
         RWFile f(perTabelle.path(), "wb");
-        auto tabellen = kette(k);
-        for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-            (*t)->schreibe(*form, f);
+        tabellenSchreiben(k, *form, f);
     }
     EXPECT_EQ(hex(readBytes(amStueck.path())), hex(readBytes(perTabelle.path())));
 }
@@ -393,9 +423,12 @@ TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) 
         }
         {
             RWbostream s(perTabelle);
-            auto tabellen = kette(k);
-            for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-                (*t)->schreibe(*form, s);
+            if (abweichung(k).virtuellUnlesbar) { // Version alone before the own fields
+                form->RefVersion().saveOn(s);
+                k.felder().schreibe(*form, s);
+            } else if (!abweichung(k).nichtsAufVirtuellemStrom) {
+                tabellenSchreiben(k, *form, s);
+            }
         }
         EXPECT_EQ(hex(bytesOf(amStueck.str())), hex(bytesOf(perTabelle.str()))) << langerText;
     }
@@ -420,7 +453,8 @@ TEST_P(JedeKlasse, ManyRecordsAcrossTheBufferBoundaryReadBackWhole) {
         f >> gelesen;
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr) << i;
-        erwarteGleich(k, *formen[i], static_cast<const qbFormular&>(*gelesen), "record " + std::to_string(i));
+        erwarteGleichNachStrom(k, *formen[i], static_cast<const qbFormular&>(*gelesen),
+                               "record " + std::to_string(i));
     }
     char mehr;
     EXPECT_FALSE(f.Read(mehr));

@@ -27,6 +27,7 @@
 #include "test_util.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -176,19 +177,21 @@ void fuelle(qbFormular& form, const qbKlasse& k, bool mitKopf) {
 // constructor leaves Version empty) one of the current layout of the health forms.
 const char* aktuelleVersion(const qbKlasse& k) { return *k.version ? k.version : "10.2002"; }
 
+// Fields that go on no stream are left out.
 bool gleicheFelder(const qbKlasse& k, const qbFormular& a, const qbFormular& b) {
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            if (!gleich(z, a, b)) return false;
+            if (z.aufStrom && !gleich(z, a, b)) return false;
     return true;
 }
 
 // Differences of two forms in the fields of the class and its bases, "" when there are none.
+// Fields that go on no stream are left out.
 std::string unterschiede(const qbKlasse& k, const qbFormular& ist, const qbFormular& soll) {
     std::string text;
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            if (!gleich(z, ist, soll))
+            if (z.aufStrom && !gleich(z, ist, soll))
                 text += std::string(" ") + z.name + "=" + feldAlsText(z, ist) + " (expected " +
                         feldAlsText(z, soll) + ")";
     return text;
@@ -201,6 +204,19 @@ template <class T>
 bool ausAbgeschnittenerZahl(T teil, T ganz) {
     const std::string a = std::to_string(teil), b = std::to_string(ganz);
     return a.size() < b.size() && b.compare(0, a.size(), a) == 0;
+}
+
+// A double on the portable stream is its shortest scientific text: a cut through it leaves a leading part
+// of its mantissa (the exponent gone).
+bool ausAbgeschnittenerGleitzahl(double teil, double ganz) {
+    auto mantisse = [](double v) {
+        char text[64];
+        const auto ende = std::to_chars(text, text + sizeof text, v, std::chars_format::scientific).ptr;
+        const std::string t(text, ende);
+        return t.substr(0, t.find('e'));
+    };
+    const std::string a = mantisse(teil), b = mantisse(ganz);
+    return a.size() <= b.size() && b.compare(0, a.size(), a) == 0;
 }
 
 // The form a cut record left: each field holds its value from the intact record or the one the fresh
@@ -217,6 +233,9 @@ std::string teilweiseGelesen(const qbKlasse& k, const qbFormular& teil, const qb
                     continue;
                 if (z.art == qbArt::Long &&
                     ausAbgeschnittenerZahl(teil.*z.mitglied.lang, ganz.*z.mitglied.lang))
+                    continue;
+                if (z.art == qbArt::Double &&
+                    ausAbgeschnittenerGleitzahl(teil.*z.mitglied.zahl, ganz.*z.mitglied.zahl))
                     continue;
             }
             text += std::string(" ") + z.name + "=" + feldAlsText(z, teil) + " (intact " +
@@ -454,6 +473,8 @@ std::string fallName(const ::testing::TestParamInfo<std::tuple<const qbKlasse*, 
 // the current record gives back every field.
 TEST_P(JedeKlasseJederStrom, EveryLayoutsRecordReadsBackWholeToItsLastByte) {
     const qbKlasse& k = klasse();
+    if (art() != Strom::Datei && !virtuellRundreise(k))
+        GTEST_SKIP() << "its records do not come back from a virtual stream (the form's own tests)";
     const std::vector<Satz>& alle = saetze(k);
     ASSERT_GE(alle.size(), 2u) << "no old layout found for " << k.klassenName;
     Elementleser leser;
@@ -488,6 +509,12 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
         {"qbFormularL147", {"10.1999", "01.1999", "12.2000", "12.2001"}},
         {"qbFormularL146", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001"}},
         {"qbFormularL145", {"10.1999", "01.2000", "01.1999", "12.2000", "11.2001", "12.2001", "05.2002"}},
+        // The pension form: keys below 200212 without and with Seitenanzahl, then the fields of 12.2002,
+        // 08.2003 and 01.2005, the three values thrown away at 10.2006, and 11.2006 without the old values.
+        {"qbFormularBAV", {"10.1999", "11.2001", "12.2002", "08.2003", "01.2005", "10.2006", "11.2006"}},
+        // A record of zeros has no second copy of Version: one layout for every version, but the header's.
+        {"qbFormularGN056", {"10.1999"}},
+        {"qbFormularL095", {"10.1999"}},
     };
     for (const qbKlasse& k : qbKlassen) {
         std::vector<std::string> gefunden;
@@ -499,6 +526,8 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
 
 TEST_P(JedeKlasseJederStrom, RecordCutAtEveryOffsetFailsTheStreamAndKeepsWhatWasRead) {
     const qbKlasse& k = klasse();
+    if (art() != Strom::Datei && !virtuellRundreise(k))
+        GTEST_SKIP() << "its records do not come back from a virtual stream (the form's own tests)";
     const auto frisch = erzeuge(k);
     Elementleser leser;
     for (const Satz& s : saetze(k)) {
@@ -564,11 +593,13 @@ INSTANTIATE_TEST_SUITE_P(Beschaedigt, JedeKlasseJederStrom,
 
 namespace {
 
-// An application with one form of every class that is a print piece of its own, every field filled.
-qbFormularListe beispielAntrag() {
+// An application with one form of every class that is a print piece of its own, every field filled; on a
+// virtual stream only the classes whose records come back from one.
+qbFormularListe beispielAntrag(Strom art) {
     qbFormularListe antrag;
     for (const qbKlasse& k : qbKlassen) {
         if (k.listenart == qbListenart::Basis) continue;
+        if (art != Strom::Datei && !virtuellRundreise(k)) continue;
         auto form = erzeuge(k);
         fuelle(*form, k, false);
         antrag.neuesFormular(*form);
@@ -718,7 +749,7 @@ std::string stromName(const ::testing::TestParamInfo<Strom>& info) {
 // stood whole before the cut, as it was stored; the form the cut went through may follow, with what it had
 // read of its fields.
 TEST_P(BeschaedigteListe, CutAtEveryOffsetKeepsEveryFormBeforeTheCut) {
-    const qbFormularListe original = beispielAntrag();
+    const qbFormularListe original = beispielAntrag(GetParam());
     ASSERT_GE(original.AnzahlFormulare(), 3u);
     Gespeichert g = speichere(original, GetParam());
     Befunde befunde(std::string("list on ") + name(GetParam()));
@@ -760,7 +791,7 @@ TEST_P(BeschaedigteListe, CutAtEveryOffsetKeepsEveryFormBeforeTheCut) {
 // allocation; the new list is the caller's also when an error is raised, and it holds every form that
 // stood whole before the damaged byte.
 TEST_P(BeschaedigteListe, FlippedByteAtEveryOffsetKeepsEveryFormBeforeTheDamage) {
-    const qbFormularListe original = beispielAntrag();
+    const qbFormularListe original = beispielAntrag(GetParam());
     Gespeichert g = speichere(original, GetParam());
     Befunde befunde(std::string("list on ") + name(GetParam()));
     Listenleser leser;

@@ -11,6 +11,7 @@
 #include "sport/qbFormularL440.h"
 
 #include "allokationen.h"
+#include "klassen_util.h"
 #include "test_util.h"
 
 #include <algorithm>
@@ -22,11 +23,15 @@ using namespace qbtest;
 
 namespace {
 
-// An application with two forms of every class, all their texts filled.
-qbFormularListe beispielAntrag() {
+enum class Art { Datei, Binaer, Portabel };
+
+// An application with two forms of every class, all their texts filled; on a virtual stream without the
+// classes whose virtual-stream records cannot be read back (the stream would run out of step).
+qbFormularListe beispielAntrag(Art art = Art::Datei) {
     qbFormularListe antrag;
     for (const qbKlasse& k : qbKlassen) {
         if (k.listenart == qbListenart::Basis) continue; // see the quirk test below
+        if (art != Art::Datei && !virtuellRundreise(k) && !abweichung(k).nichtsAufVirtuellemStrom) continue;
         for (int person = 0; person < 2; ++person) {
             std::unique_ptr<qbFormular> form(static_cast<qbFormular*>(k.erzeuge()));
             for (const qbFeld& z : k.felder())
@@ -37,8 +42,6 @@ qbFormularListe beispielAntrag() {
     }
     return antrag;
 }
-
-enum class Art { Datei, Binaer, Portabel };
 
 std::string schreibe(const qbFormularListe& antrag, Art art) {
     if (art == Art::Datei) {
@@ -104,14 +107,14 @@ std::string artName(const ::testing::TestParamInfo<Art>& info) {
 } // namespace
 
 TEST_P(Beschaedigt, IntactApplicationReadsBackCompletely) {
-    const qbFormularListe antrag = beispielAntrag();
+    const qbFormularListe antrag = beispielAntrag(GetParam());
     qbFormularListe liste;
     ASSERT_TRUE(lies(schreibe(antrag, GetParam()), GetParam(), liste));
     EXPECT_EQ(liste.AnzahlFormulare(), antrag.AnzahlFormulare());
 }
 
 TEST_P(Beschaedigt, EveryTruncationIsHandled) {
-    const std::string ganz = schreibe(beispielAntrag(), GetParam());
+    const std::string ganz = schreibe(beispielAntrag(GetParam()), GetParam());
     const size_t schritt = std::max<size_t>(1, ganz.size() / 1500);
     for (size_t laenge = 0; laenge < ganz.size(); laenge += schritt) {
         qbFormularListe liste;
@@ -121,7 +124,7 @@ TEST_P(Beschaedigt, EveryTruncationIsHandled) {
 }
 
 TEST_P(Beschaedigt, FlippedBytesAreHandled) {
-    const std::string ganz = schreibe(beispielAntrag(), GetParam());
+    const std::string ganz = schreibe(beispielAntrag(GetParam()), GetParam());
     std::mt19937 zufall(20261122);
     for (int versuch = 0; versuch < 1500; ++versuch) {
         std::string kaputt = ganz;

@@ -56,6 +56,8 @@ std::unique_ptr<qbFormularListe> baueListe(int nr) {
     for (int i = 0; i < 12; ++i)
         for (const qbKlasse& k : qbKlassen) {
             if (!*k.nummer) continue;
+            if (abweichung(k).virtuellUnlesbar)
+                continue; // its records cannot come back from a virtual stream
             auto form = erzeuge(k);
             fuelleFormular(k, *form, zufall);
             form->RefPersonenKennung(kPersonen[(i + nr) % 3]);
