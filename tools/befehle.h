@@ -42,6 +42,7 @@ void richteImportEin(CLI::App& haupt, Befehle& befehle);
 void richteUpgradeEin(CLI::App& haupt, Befehle& befehle);
 void richteCatalogEin(CLI::App& haupt, Befehle& befehle);
 void richteExplainEin(CLI::App& haupt, Befehle& befehle);
+void richteCheckEin(CLI::App& haupt, Befehle& befehle);
 
 } // namespace qbtool
 

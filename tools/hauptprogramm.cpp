@@ -54,6 +54,7 @@ int hauptprogramm(int argc, char** argv) {
     richteUpgradeEin(haupt, befehle);
     richteCatalogEin(haupt, befehle);
     richteExplainEin(haupt, befehle);
+    richteCheckEin(haupt, befehle);
 
     try {
         haupt.parse(argc, argv);
