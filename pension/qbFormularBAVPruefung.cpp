@@ -154,7 +154,8 @@ RWDate qbFormularBAV::berechneZusageDatum(RWCString text) {
     default:
         return RWDate::fromJulian(0);
     }
-    unsigned monat = d.month();
+    // Day number 0 is 1 January 4713 BC: its previous month is a December.
+    unsigned monat = d.isValid() ? d.month() : 1;
     unsigned jahr = d.year();
     if (monat == 1) {
         monat = 12;
