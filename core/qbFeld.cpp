@@ -8,6 +8,8 @@
 
 #include <atomic>
 #include <cassert>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -70,7 +72,7 @@ void schreibeWert(Strom& s, qbArt art, const T& v) {
 template <class Strom>
 void schreibeZeilen(const qbFeldTabelle& tabelle, const qbFormular& form, Strom& s) {
     for (const qbFeld& z : tabelle)
-        if (z.aufStrom) mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
+        if (z.imStrom) mitMitglied(z, [&](auto m) { schreibeWert(s, z.art, form.*m); });
 }
 
 } // namespace
@@ -224,8 +226,7 @@ void qbFeldTabelle::liesZeile(const qbFeld& z, qbFormular* form, RWvistream& s) 
 // A row with a version condition asks the Version read so far: the header's own Seitenanzahl depends on
 // the Version read just before it.
 static bool gehoertZumLayout(const qbFeld& z, const qbFormular& form) {
-    if (!z.aufStrom) return false;
-    if (z.liesAbSchluessel == 0 && !z.liesWenn) return true;
+    if (z.imStrom && z.liesAbSchluessel == 0 && !z.liesWenn) return true;
     return z.gehoertZumLayout(qbVersionsSchluessel(form.RefVersion()));
 }
 
@@ -251,7 +252,7 @@ void qbFeldTabelle::lies(qbFormular& form, RWvistream& s, size_t ab) const {
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
     RWspace summe = 0;
     for (const qbFeld& z : *this) {
-        if (!z.aufStrom) continue;
+        if (!z.imStrom) continue;
         summe += qbFesteBreite(z.art); // no class with a person counts its size
         if (z.art == qbArt::Text && z.laengeInGroesse) summe += (form.*z.mitglied.text).length();
     }
@@ -288,6 +289,21 @@ void xmlLiesZeile(const qbFeld& z, qbFormular& form, const CQBXMLdata& knoten) {
     });
 }
 
+// The row of each name of an order, in that order; a name the table does not hold is a fault of the form's
+// file and stops the program rather than leave a field out of the tree unnoticed.
+template <class Tun>
+void inFolge(const qbFeldTabelle& tabelle, const char* const* folge, Tun tun) {
+    for (; *folge; ++folge) {
+        const qbFeld* z = tabelle.suche(*folge);
+        if (!z) {
+            std::fprintf(stderr, "qbformul: %s has no field %s for its XML order\n", tabelle.klasse(),
+                         *folge);
+            std::abort();
+        }
+        tun(*z);
+    }
+}
+
 } // namespace
 
 void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const {
@@ -300,20 +316,10 @@ void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten) const {
         xmlLiesZeile(z, form, knoten);
 }
 
-void qbFeldTabelle::xmlSchreibeFolge(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge,
-                                     size_t n) const {
-    for (size_t i = 0; i < n; ++i) {
-        const qbFeld* z = suche(folge[i]);
-        assert(z && "an XML order names a field the table does not have");
-        if (z) xmlSchreibeZeile(*z, form, knoten);
-    }
+void qbFeldTabelle::xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const {
+    inFolge(*this, folge, [&](const qbFeld& z) { xmlSchreibeZeile(z, form, knoten); });
 }
 
-void qbFeldTabelle::xmlLiesFolge(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge,
-                                 size_t n) const {
-    for (size_t i = 0; i < n; ++i) {
-        const qbFeld* z = suche(folge[i]);
-        assert(z && "an XML order names a field the table does not have");
-        if (z) xmlLiesZeile(*z, form, knoten);
-    }
+void qbFeldTabelle::xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const {
+    inFolge(*this, folge, [&](const qbFeld& z) { xmlLiesZeile(z, form, knoten); });
 }

@@ -83,7 +83,7 @@ struct qbFeld {
     const char* standardText;  // default of Text
     int liesAbSchluessel;      // read only from records whose version key is at least this (0: always)
     bool (*liesWenn)(int versionsSchluessel); // read only when this holds (null: always)
-    bool aufStrom = true;                     // the field goes on the streams (false: object and XML only)
+    bool imStrom;                             // saved, restored and counted in binaryStoreSize
 
     // A copy of the row with one property changed. Defined ahead of the modifiers that use it: Clang
     // evaluates a member template in a constant expression only when its definition comes first.
@@ -125,14 +125,16 @@ struct qbFeld {
     constexpr qbFeld liesNurWenn(bool (*bedingung)(int versionsSchluessel)) const {
         return mit([&](qbFeld& f) { f.liesWenn = bedingung; });
     }
-    constexpr qbFeld nichtAufStrom() const { // held by the object and its XML, never stored
-        return mit([](qbFeld& f) { f.aufStrom = false; });
-    }
     constexpr qbFeld ohneLaengeInGroesse() const {
         return mit([](qbFeld& f) { f.laengeInGroesse = false; });
     }
+    // A field of the object and its XML that no record holds: never saved or restored, not counted.
+    constexpr qbFeld ohneStrom() const {
+        return mit([](qbFeld& f) { f.imStrom = false; });
+    }
     bool gehoertZumLayout(int versionsSchluessel) const {
-        return versionsSchluessel >= liesAbSchluessel && (!liesWenn || liesWenn(versionsSchluessel));
+        return imStrom && versionsSchluessel >= liesAbSchluessel &&
+               (!liesWenn || liesWenn(versionsSchluessel));
     }
 
     // Row builders, one per type. Klasse is the form that declares the member.
@@ -220,16 +222,10 @@ public:
 
     void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten) const;
     void xmlLies(qbFormular& form, const CQBXMLdata& knoten) const;
-    // The same in an order of the form's own, by field name; a name may stand more than once (its key
-    // then goes into the tree, or is read from it, once per mention).
-    template <size_t N>
-    void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const (&folge)[N]) const {
-        xmlSchreibeFolge(form, knoten, folge, N);
-    }
-    template <size_t N>
-    void xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const (&folge)[N]) const {
-        xmlLiesFolge(form, knoten, folge, N);
-    }
+    // The same in an order of the form's own, which may name a field more than once: a list of field
+    // names that ends with a null.
+    void xmlSchreibe(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge) const;
+    void xmlLies(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge) const;
 
 private:
     void xmlSchreibeFolge(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge,

@@ -21,12 +21,12 @@
 #define QB_FELD_SCHREIBEN(Typ, Name, ...)                                                                    \
     {                                                                                                        \
         static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
-        if constexpr (zeile.aufStrom) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);                            \
+        if constexpr (zeile.imStrom) qbSchreibe<qbArt::QB_ZEILE_##Typ>(s, Name);                             \
     }
 #define QB_FELD_LESEN(Typ, Name, ...)                                                                        \
     {                                                                                                        \
         static constexpr qbFeld zeile = QB_FELD_ZEILE_AUSDRUCK(Typ, Name, __VA_ARGS__);                      \
-        if constexpr (zeile.aufStrom)                                                                        \
+        if constexpr (zeile.imStrom)                                                                         \
             if ((zeile.liesAbSchluessel == 0 && !zeile.liesWenn) || zeile.gehoertZumLayout(schluessel()))    \
                 qbLies<qbArt::QB_ZEILE_##Typ>(s, Name);                                                      \
     }
@@ -154,6 +154,24 @@
     void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                             \
         if (knoten.Typ() != klassenName()) return;                                                           \
         felder().xmlLies(*this, knoten);                                                                     \
+        knoten.Typ(Basisklasse::klassenName());                                                              \
+        qbFormular::XMLputDat(knoten);                                                                       \
+        knoten.Typ(klassenName());                                                                           \
+    }
+
+// The same for a form whose XML keeps an order of its own: Folge names the fields in the tree's order, a
+// field as often as the tree holds it, and ends with a null. Both directions go by it.
+#define QB_FORMULAR_XML_IN_FOLGE(Klasse, Folge)                                                              \
+    void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                       \
+        knoten.clear(klassenName());                                                                         \
+        CQBXMLdata kopf("");                                                                                 \
+        qbFormular::XMLgetDat(kopf);                                                                         \
+        knoten.add(std::move(kopf));                                                                         \
+        felder().xmlSchreibe(*this, knoten, Folge);                                                          \
+    }                                                                                                        \
+    void Klasse::XMLputDat(CQBXMLdata& knoten) {                                                             \
+        if (knoten.Typ() != klassenName()) return;                                                           \
+        felder().xmlLies(*this, knoten, Folge);                                                              \
         knoten.Typ(Basisklasse::klassenName());                                                              \
         qbFormular::XMLputDat(knoten);                                                                       \
         knoten.Typ(klassenName());                                                                           \

@@ -114,23 +114,10 @@ static constexpr const char* kXmlFolge[] = {"DVLohnsteuer",
                                             "ArbeitnehmerAnzahl",
                                             "Finanzierungsstrategie",
                                             "unwiderruflicherBezugBeiMischFin",
-                                            "agBeitragBeiMischFin"};
+                                            "agBeitragBeiMischFin",
+                                            nullptr};
 
-void qbFormularBAV::XMLgetDat(CQBXMLdata& knoten) const {
-    knoten.clear(klassenName());
-    CQBXMLdata kopf("");
-    qbFormular::XMLgetDat(kopf);
-    knoten.add(std::move(kopf));
-    felder().xmlSchreibe(*this, knoten, kXmlFolge);
-}
-
-void qbFormularBAV::XMLputDat(CQBXMLdata& knoten) {
-    if (knoten.Typ() != klassenName()) return;
-    felder().xmlLies(*this, knoten, kXmlFolge);
-    knoten.Typ(qbFormular::klassenName());
-    qbFormular::XMLputDat(knoten);
-    knoten.Typ(klassenName());
-}
+QB_FORMULAR_XML_IN_FOLGE(qbFormularBAV, kXmlFolge)
 
 // ---- Identity and reset
 

@@ -9,36 +9,36 @@
 // the "Proz", and BelastungOben is a Flag without the "JN" of its neighbours.
 #define QB_TAETIGKEIT_qbFormularL095(FELD, i)                                                                \
     QB_EINTRAG(FELD, Text, Lehre, i)                                                                         \
-    QB_EINTRAG(FELD, Text, Fachausb, i, .nichtAufStrom())                                                    \
-    QB_EINTRAG(FELD, Text, Studium, i, .nichtAufStrom())                                                     \
-    QB_EINTRAG(FELD, Text, Meister, i, .nichtAufStrom())                                                     \
-    QB_EINTRAG(FELD, Text, AusbildungSonst, i, .nichtAufStrom())                                             \
-    QB_EINTRAG(FELD, Text, StellungSonst, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Text, Beschreibung, i, .nichtAufStrom())                                                \
-    QB_EINTRAG(FELD, Text, TaetigSonst, i, .nichtAufStrom())                                                 \
-    QB_EINTRAG(FELD, Text, SonstBelastung, i, .nichtAufStrom())                                              \
+    QB_EINTRAG(FELD, Text, Fachausb, i, .ohneStrom())                                                        \
+    QB_EINTRAG(FELD, Text, Studium, i, .ohneStrom())                                                         \
+    QB_EINTRAG(FELD, Text, Meister, i, .ohneStrom())                                                         \
+    QB_EINTRAG(FELD, Text, AusbildungSonst, i, .ohneStrom())                                                 \
+    QB_EINTRAG(FELD, Text, StellungSonst, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Text, Beschreibung, i, .ohneStrom())                                                    \
+    QB_EINTRAG(FELD, Text, TaetigSonst, i, .ohneStrom())                                                     \
+    QB_EINTRAG(FELD, Text, SonstBelastung, i, .ohneStrom())                                                  \
     QB_EINTRAG(FELD, Int, MitarbKaufVoll, i)                                                                 \
-    QB_EINTRAG(FELD, Int, MitarbKaufTeil, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Int, MitarbHandVoll, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Int, MitarbHandTeil, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Int, KunstProz, i, .xml("Kunst[" #i "]").nichtAufStrom())                               \
-    QB_EINTRAG(FELD, Int, SonstProz, i, .xml("Sonst[" #i "]").nichtAufStrom())                               \
-    QB_EINTRAG(FELD, Int, ReiseProz, i, .xml("Reise[" #i "]").nichtAufStrom())                               \
+    QB_EINTRAG(FELD, Int, MitarbKaufTeil, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Int, MitarbHandVoll, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Int, MitarbHandTeil, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Int, KunstProz, i, .xml("Kunst[" #i "]").ohneStrom())                                   \
+    QB_EINTRAG(FELD, Int, SonstProz, i, .xml("Sonst[" #i "]").ohneStrom())                                   \
+    QB_EINTRAG(FELD, Int, ReiseProz, i, .xml("Reise[" #i "]").ohneStrom())                                   \
     QB_EINTRAG(FELD, Flag, FreienJN, i)                                                                      \
-    QB_EINTRAG(FELD, Flag, HandJN, i, .nichtAufStrom())                                                      \
-    QB_EINTRAG(FELD, Flag, ArbeitszeitJN, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Flag, VibrationenJN, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Flag, ZwangshaltungJN, i, .nichtAufStrom())                                             \
-    QB_EINTRAG(FELD, Flag, AkkordarbeitJN, i, .nichtAufStrom())                                              \
-    QB_EINTRAG(FELD, Flag, HautJN, i, .nichtAufStrom())                                                      \
-    QB_EINTRAG(FELD, Flag, AllergenJN, i, .nichtAufStrom())                                                  \
-    QB_EINTRAG(FELD, Flag, UnfallJN, i, .nichtAufStrom())                                                    \
-    QB_EINTRAG(FELD, Flag, SchichtJN, i, .nichtAufStrom())                                                   \
-    QB_EINTRAG(FELD, Flag, SchwerJN, i, .nichtAufStrom())                                                    \
-    QB_EINTRAG(FELD, Flag, BelastungUntenJN, i, .nichtAufStrom())                                            \
-    QB_EINTRAG(FELD, Flag, BelastungOben, i, .nichtAufStrom())                                               \
-    QB_EINTRAG(FELD, Flag, StaubJN, i, .nichtAufStrom())                                                     \
-    QB_EINTRAG(FELD, Flag, MaschinenJN, i, .nichtAufStrom())
+    QB_EINTRAG(FELD, Flag, HandJN, i, .ohneStrom())                                                          \
+    QB_EINTRAG(FELD, Flag, ArbeitszeitJN, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Flag, VibrationenJN, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Flag, ZwangshaltungJN, i, .ohneStrom())                                                 \
+    QB_EINTRAG(FELD, Flag, AkkordarbeitJN, i, .ohneStrom())                                                  \
+    QB_EINTRAG(FELD, Flag, HautJN, i, .ohneStrom())                                                          \
+    QB_EINTRAG(FELD, Flag, AllergenJN, i, .ohneStrom())                                                      \
+    QB_EINTRAG(FELD, Flag, UnfallJN, i, .ohneStrom())                                                        \
+    QB_EINTRAG(FELD, Flag, SchichtJN, i, .ohneStrom())                                                       \
+    QB_EINTRAG(FELD, Flag, SchwerJN, i, .ohneStrom())                                                        \
+    QB_EINTRAG(FELD, Flag, BelastungUntenJN, i, .ohneStrom())                                                \
+    QB_EINTRAG(FELD, Flag, BelastungOben, i, .ohneStrom())                                                   \
+    QB_EINTRAG(FELD, Flag, StaubJN, i, .ohneStrom())                                                         \
+    QB_EINTRAG(FELD, Flag, MaschinenJN, i, .ohneStrom())
 
 #define QB_FELDER_qbFormularL095(FELD) QB_DURCHLAEUFE_2(QB_TAETIGKEIT_qbFormularL095, FELD)
 

@@ -53,14 +53,14 @@ void erwarteGleich(const qbKlasse& k, const qbFormular& a, const qbFormular& b, 
             EXPECT_EQ(feldAlsText(z, a), feldAlsText(z, b)) << wo << ": " << k.klassenName << "::" << z.name;
 }
 
-// After a stream's round trip: the fields that go on a stream as they were saved, the others as a new
-// object has them.
-void erwarteGleichNachStrom(const qbKlasse& k, const qbFormular& gespeichert, const qbFormular& gelesen,
-                            const std::string& wo) {
+// A form read from a record of form holds its values, except in a field that no record holds: that keeps
+// the fresh object's value.
+void erwarteGelesen(const qbKlasse& k, const qbFormular& form, const qbFormular& gelesen,
+                    const std::string& wo) {
     const auto frisch = erzeuge(k);
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            EXPECT_EQ(feldAlsText(z, gelesen), feldAlsText(z, z.aufStrom ? gespeichert : *frisch))
+            EXPECT_EQ(feldAlsText(z, gelesen), feldAlsText(z, z.imStrom ? form : *frisch))
                 << wo << ": " << k.klassenName << "::" << z.name;
 }
 
@@ -155,7 +155,7 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr);
         ASSERT_EQ(gelesen->isA(), k.id);
-        erwarteGleichNachStrom(k, *form, static_cast<const qbFormular&>(*gelesen), "RWFile");
+        erwarteGelesen(k, *form, static_cast<const qbFormular&>(*gelesen), "RWFile");
         int ende;
         EXPECT_FALSE(f.Read(ende)) << "the reader stopped before the record's end";
     }
@@ -291,7 +291,7 @@ TEST_P(JedeKlasse, GeneratedReadAndTableReadOfTheCurrentLayoutAgree) {
     ASSERT_TRUE(direkt && perTabelle);
     erwarteGleich(k, static_cast<const qbFormular&>(*direkt), static_cast<const qbFormular&>(*perTabelle),
                   "table read");
-    erwarteGleichNachStrom(k, *form, static_cast<const qbFormular&>(*direkt), "generated read");
+    erwarteGelesen(k, *form, static_cast<const qbFormular&>(*direkt), "generated read");
 }
 
 namespace {
@@ -453,8 +453,8 @@ TEST_P(JedeKlasse, ManyRecordsAcrossTheBufferBoundaryReadBackWhole) {
         f >> gelesen;
         std::unique_ptr<RWCollectable> besitz(gelesen);
         ASSERT_NE(gelesen, nullptr) << i;
-        erwarteGleichNachStrom(k, *formen[i], static_cast<const qbFormular&>(*gelesen),
-                               "record " + std::to_string(i));
+        erwarteGelesen(k, *formen[i], static_cast<const qbFormular&>(*gelesen),
+                       "record " + std::to_string(i));
     }
     char mehr;
     EXPECT_FALSE(f.Read(mehr));

@@ -109,6 +109,7 @@ bool amEnde(RWvistream& s) { return s.get() == std::char_traits<char>::eof(); }
 
 // The same value in both forms; feldAlsText() gives the text only for messages.
 bool gleich(const qbFeld& z, const qbFormular& a, const qbFormular& b) {
+    if (!z.imStrom) return true; // a field no record holds: no part of what a record gives back
     switch (z.art) {
     case qbArt::Text:
         return a.*z.mitglied.text == b.*z.mitglied.text;
@@ -177,21 +178,19 @@ void fuelle(qbFormular& form, const qbKlasse& k, bool mitKopf) {
 // constructor leaves Version empty) one of the current layout of the health forms.
 const char* aktuelleVersion(const qbKlasse& k) { return *k.version ? k.version : "10.2002"; }
 
-// Fields that go on no stream are left out.
 bool gleicheFelder(const qbKlasse& k, const qbFormular& a, const qbFormular& b) {
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            if (z.aufStrom && !gleich(z, a, b)) return false;
+            if (!gleich(z, a, b)) return false;
     return true;
 }
 
 // Differences of two forms in the fields of the class and its bases, "" when there are none.
-// Fields that go on no stream are left out.
 std::string unterschiede(const qbKlasse& k, const qbFormular& ist, const qbFormular& soll) {
     std::string text;
     for (const qbFeldTabelle* t : kette(k))
         for (const qbFeld& z : *t)
-            if (z.aufStrom && !gleich(z, ist, soll))
+            if (!gleich(z, ist, soll))
                 text += std::string(" ") + z.name + "=" + feldAlsText(z, ist) + " (expected " +
                         feldAlsText(z, soll) + ")";
     return text;

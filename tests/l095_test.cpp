@@ -59,9 +59,13 @@ TEST(L095, FreshFormHasTheHeaderAllFlagsUnansweredAndAllIntsZeroInBothIndices) {
     EXPECT_EQ(f.RefPersonenKennung(), "VP1");
     EXPECT_EQ(tabelle().size(), 62u);
     for (const qbFeld& z : tabelle()) {
-        if (z.art == qbArt::Flag) EXPECT_EQ(f.*z.mitglied.flag, 0xFF) << z.name;
-        if (z.art == qbArt::Int) EXPECT_EQ(f.*z.mitglied.ganz, 0) << z.name;
-        if (z.art == qbArt::Text) EXPECT_EQ(f.*z.mitglied.text, "") << z.name;
+        if (z.art == qbArt::Flag) {
+            EXPECT_EQ(f.*z.mitglied.flag, 0xFF) << z.name;
+        } else if (z.art == qbArt::Int) {
+            EXPECT_EQ(f.*z.mitglied.ganz, 0) << z.name;
+        } else {
+            EXPECT_EQ(f.*z.mitglied.text, "") << z.name;
+        }
     }
     EXPECT_EQ(f.GetBelastungOben(0), 0xFF); // a Flag without JN
 }
