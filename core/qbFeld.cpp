@@ -89,6 +89,16 @@ void qbFeldTabelle::kopiere(qbFormular& ziel, const qbFormular& quelle) const {
         mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });
 }
 
+void qbFeldTabelle::kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
+                                  std::initializer_list<const char*> ausser) const {
+    for (const qbFeld& z : *this) {
+        bool bleibt = false;
+        for (const char* name : ausser)
+            bleibt = bleibt || std::strcmp(z.name, name) == 0;
+        if (!bleibt) mitMitglied(z, [&](auto m) { ziel.*m = quelle.*m; });
+    }
+}
+
 // ---- Streams
 
 void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const { schreibeZeilen(*this, form, f); }
@@ -245,9 +255,11 @@ void qbFeldTabelle::lies(qbFormular& form, RWFile& f, const char* layout) const 
         if (gehoertZumLayout(z, form)) liesZeileAus(z, &form, f, nullptr);
 }
 
-void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const {
-    for (const qbFeld& z : *this)
-        if (z.vomVirtuellenStrom && gehoertZumLayout(z, form)) liesZeile(z, &form, s);
+void qbFeldTabelle::lies(qbFormular& form, RWvistream& s) const { lies(form, s, 0); }
+
+void qbFeldTabelle::lies(qbFormular& form, RWvistream& s, size_t ab) const {
+    for (const qbFeld* z = begin() + (ab < size() ? ab : size()); z != end(); ++z)
+        if (z->vomVirtuellenStrom && gehoertZumLayout(*z, form)) liesZeile(*z, &form, s);
 }
 
 RWspace qbFeldTabelle::groesse(const qbFormular& form) const {
@@ -277,12 +289,18 @@ void xmlSchreibeZeile(const qbFeld& z, const qbFormular& form, CQBXMLdata& knote
         });
 }
 
+// An Enum comes back through the value's variant form: whatever number the tree holds, and 0 for a
+// missing key.
 void xmlLiesZeile(const qbFeld& z, qbFormular& form, const CQBXMLdata& knoten) {
-    if (z.xmlLeseKey)
-        mitMitglied(z, [&](auto m) {
-            if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
-                knoten.Listvalue(z.xmlLeseKey, form.*m);
-        });
+    if (!z.xmlLeseKey) return;
+    if (z.art == qbArt::Enum) {
+        form.*z.mitglied.ganz = knoten.Listvalue(z.xmlLeseKey).asInt();
+        return;
+    }
+    mitMitglied(z, [&](auto m) {
+        if constexpr (hatXmlWert<std::remove_cvref_t<decltype(form.*m)>>)
+            knoten.Listvalue(z.xmlLeseKey, form.*m);
+    });
 }
 
 // The row of each name of an order, in that order; a name the table does not hold is a fault of the form's

@@ -35,7 +35,8 @@ class qbFormular;
 //   Date    RWDate         its day number, 4 bytes (RWFile only)
 //   Person  qbPerson       its own record (RWFile only)
 //   Enum    int            an enumeration held as int, stored as its low byte through a Char and read
-//                          back sign-extended
+//                          back sign-extended; from XML through the value's variant form, converted to
+//                          int (a missing key gives 0)
 enum class qbArt : unsigned char { Text, Flag, Char, Bool, Int, Long, Double, Date, Person, Enum };
 
 // The fixed bytes of a value on RWFile: a Text's length (its characters come on top); 0 for a Person, whose
@@ -107,6 +108,9 @@ struct qbFeld {
     }
     constexpr qbFeld nurXmlSchreiben() const { // written to XML, never read back
         return mit([](qbFeld& f) { f.xmlLeseKey = nullptr; });
+    }
+    constexpr qbFeld nurXmlLesen() const { // read from XML, never written to it
+        return mit([](qbFeld& f) { f.xmlSchreibKey = nullptr; });
     }
     constexpr qbFeld ohneXml() const {
         return mit([](qbFeld& f) { f.xmlSchreibKey = f.xmlLeseKey = nullptr; });
@@ -229,6 +233,9 @@ public:
     const qbFeld* suche(const char* name) const; // the row of a field, or null
 
     void kopiere(qbFormular& ziel, const qbFormular& quelle) const;
+    // Every field but the named ones, which keep the target's values.
+    void kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
+                       std::initializer_list<const char*> ausser) const;
 
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;
@@ -238,6 +245,8 @@ public:
     // carries back. (The header's own rows are named before its Version is read: as the current table.)
     void lies(qbFormular& form, RWFile& f, const char* layout = nullptr) const;
     void lies(qbFormular& form, RWvistream& s) const;
+    // The same from the row at index ab on: a reader that has the first rows' values already.
+    void lies(qbFormular& form, RWvistream& s, size_t ab) const;
     // Reads one row, or a value of that type that is thrown away when form is null.
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWFile& f);
     static void liesZeile(const qbFeld& zeile, qbFormular* form, RWvistream& s);
@@ -269,6 +278,10 @@ public:
                                const qbFeldTabelle& quelle) const;
 
 private:
+    void xmlSchreibeFolge(const qbFormular& form, CQBXMLdata& knoten, const char* const* folge,
+                          size_t n) const;
+    void xmlLiesFolge(qbFormular& form, const CQBXMLdata& knoten, const char* const* folge, size_t n) const;
+
     const char* klasse_;
     const qbFeld* zeilen_;
     size_t anzahl_;

@@ -86,30 +86,40 @@
         Felder(QB_FELD_STANDARD)                                                                             \
     }
 
-// Identity, field table, copy construction and assignment (base first, then the own fields), and the
-// entry points of the class table (creator, copy for the list, assignment for the list, XML import).
-#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
-    QB_FELDTABELLE(Klasse, Felder)                                                                           \
-    QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)
-// The same for a form declared with QB_FORMULAR_OHNE_XML.
-#define QB_FORMULAR_OHNE_XML_IDENTITAET(Klasse, Felder)                                                      \
-    QB_FELDTABELLE_AUS(Klasse, Felder, QB_FELD_ZEILE_OHNE_XML)                                               \
-    QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)
-#define QB_FORMULAR_IDENTITAET_OHNE_TABELLE(Klasse, Felder)                                                  \
+// Identity and the entry points of the class table (creator, copy for the list, assignment for the list,
+// XML import), for a field table defined apart.
+#define QB_FORMULAR_KERN_OHNE_TABELLE(Klasse, Felder)                                                        \
     unsigned short Klasse::myAtom = qbId_##Klasse;                                                           \
     unsigned short Klasse::classIsA() { return myAtom; }                                                     \
     RWClassID Klasse::isA() const { return myAtom; }                                                         \
     RWCollectable* Klasse::newSpecies() const { return new Klasse; }                                         \
     RWCollectable* Klasse::copy() const { return new Klasse(*this); }                                        \
+    Klasse::~Klasse() = default;                                                                             \
+    QB_FELDER_ALS_CODE(Klasse, Felder)                                                                       \
+    QB_KLASSEN_EINSTIEG(Klasse)
+// The same with the field table.
+#define QB_FORMULAR_KERN(Klasse, Felder)                                                                     \
+    QB_FELDTABELLE(Klasse, Felder)                                                                           \
+    QB_FORMULAR_KERN_OHNE_TABELLE(Klasse, Felder)
+
+// Copy construction and assignment: base first, then the own fields.
+#define QB_FORMULAR_KOPIE(Klasse)                                                                            \
     Klasse::Klasse(const Klasse& other) : Basisklasse(other) { felder().kopiere(*this, other); }             \
     Klasse& Klasse::operator=(const Klasse& other) {                                                         \
         Basisklasse::operator=(other);                                                                       \
         felder().kopiere(*this, other);                                                                      \
         return *this;                                                                                        \
-    }                                                                                                        \
-    Klasse::~Klasse() = default;                                                                             \
-    QB_FELDER_ALS_CODE(Klasse, Felder)                                                                       \
-    QB_KLASSEN_EINSTIEG(Klasse)
+    }
+
+// Identity, field table, copy and assignment, entry points.
+#define QB_FORMULAR_IDENTITAET(Klasse, Felder)                                                               \
+    QB_FORMULAR_KERN(Klasse, Felder)                                                                         \
+    QB_FORMULAR_KOPIE(Klasse)
+// The same for a form declared with QB_FORMULAR_OHNE_XML.
+#define QB_FORMULAR_OHNE_XML_IDENTITAET(Klasse, Felder)                                                      \
+    QB_FELDTABELLE_AUS(Klasse, Felder, QB_FELD_ZEILE_OHNE_XML)                                               \
+    QB_FORMULAR_KERN_OHNE_TABELLE(Klasse, Felder)                                                            \
+    QB_FORMULAR_KOPIE(Klasse)
 
 // Default constructor: the base's defaults, the own fields' defaults, then the header constants of the
 // class table.

@@ -19,20 +19,22 @@
 //   TextKopie    getter and setter pass the text by value
 //   TextWert     setter takes the text by value
 //   IntKonstRef  setter takes a const int&
-//   FlagOhneZugriff, IntOhneZugriff, DoubleOhneZugriff
-//                no accessors of their own: a field reached through the stream, XML and conversion only,
-//                or an element of an array whose indexed accessors QB_REIHE declares
+//   <Typ>Eigen   no generated accessors: the form writes its own (TextEigen, BoolEigen, DateEigen ...)
+//   Get<Typ>     Get<Name>() and Set<Name>(v) instead of Ref<Name> (GetText, GetFlag, GetInt, GetDouble)
 //
-// An array is one member per element, Name_0, Name_1 ..., each a row of its own at its place in stream
-// order (arrays may interleave), with the indexed accessors of QB_REIHE in the class body:
-//     FELD(IntOhneZugriff, Jahre_0)
-//     FELD(DoubleOhneZugriff, Einkommen_0)
-//     FELD(IntOhneZugriff, Jahre_1) ...
-//     QB_REIHE(qbFormularGS004, Int, Jahre, 3)   // int RefJahre(int index), void RefJahre(int index, int)
+// An array of n entries is a row per entry, Name_i, with the XML key "Name[i]" (QB_EINTRAG); a group of
+// arrays that a stream or XML walks index by index lists its rows pass by pass (QB_DURCHLAEUFE_n), and
+// QB_EINTRAEGE gives the entries' members by index for the form's accessors.
+//
+// An array's rows may also interleave with other arrays in stream order (GS004's Jahre_0,
+// EinkommenInLetztenJahren_0, Jahre_1 ...); QB_REIHE(Klasse, Typ, Name, n) gives such an array the
+// accessors Ref<Name>(i) and Ref<Name>(i, v), index first and without bounds check.
 #pragma once
 
 #include "core/qbFeld.h"
 #include "core/qbFormular.h"
+
+#include <type_traits>
 
 // ---- Member types and accessors per field type
 
@@ -49,9 +51,18 @@
 #define QB_MITGLIED_Date RWDate
 #define QB_MITGLIED_Person qbPerson
 #define QB_MITGLIED_Enum int
-#define QB_MITGLIED_FlagOhneZugriff unsigned char
-#define QB_MITGLIED_IntOhneZugriff int
-#define QB_MITGLIED_DoubleOhneZugriff double
+#define QB_MITGLIED_TextEigen RWCString
+#define QB_MITGLIED_FlagEigen unsigned char
+#define QB_MITGLIED_BoolEigen bool
+#define QB_MITGLIED_IntEigen int
+#define QB_MITGLIED_LongEigen long
+#define QB_MITGLIED_DoubleEigen double
+#define QB_MITGLIED_DateEigen RWDate
+#define QB_MITGLIED_EnumEigen int
+#define QB_MITGLIED_GetText RWCString
+#define QB_MITGLIED_GetFlag unsigned char
+#define QB_MITGLIED_GetInt int
+#define QB_MITGLIED_GetDouble double
 
 #define QB_ZEILE_Text Text
 #define QB_ZEILE_TextKopie Text
@@ -66,9 +77,18 @@
 #define QB_ZEILE_Date Date
 #define QB_ZEILE_Person Person
 #define QB_ZEILE_Enum Enum
-#define QB_ZEILE_FlagOhneZugriff Flag
-#define QB_ZEILE_IntOhneZugriff Int
-#define QB_ZEILE_DoubleOhneZugriff Double
+#define QB_ZEILE_TextEigen Text
+#define QB_ZEILE_FlagEigen Flag
+#define QB_ZEILE_BoolEigen Bool
+#define QB_ZEILE_IntEigen Int
+#define QB_ZEILE_LongEigen Long
+#define QB_ZEILE_DoubleEigen Double
+#define QB_ZEILE_DateEigen Date
+#define QB_ZEILE_EnumEigen Enum
+#define QB_ZEILE_GetText Text
+#define QB_ZEILE_GetFlag Flag
+#define QB_ZEILE_GetInt Int
+#define QB_ZEILE_GetDouble Double
 
 #define QB_ZUGRIFF_WERT(T, Name)                                                                             \
     T Ref##Name() const { return Name; }                                                                     \
@@ -94,35 +114,73 @@
 #define QB_ZUGRIFF_Date(Name) QB_ZUGRIFF_REF(RWDate, Name)
 #define QB_ZUGRIFF_Person(Name) QB_ZUGRIFF_REF(qbPerson, Name)
 #define QB_ZUGRIFF_Enum(Name) QB_ZUGRIFF_WERT(int, Name)
-#define QB_ZUGRIFF_FlagOhneZugriff(Name)
-#define QB_ZUGRIFF_IntOhneZugriff(Name)
-#define QB_ZUGRIFF_DoubleOhneZugriff(Name)
+#define QB_ZUGRIFF_TextEigen(Name)
+#define QB_ZUGRIFF_FlagEigen(Name)
+#define QB_ZUGRIFF_BoolEigen(Name)
+#define QB_ZUGRIFF_IntEigen(Name)
+#define QB_ZUGRIFF_LongEigen(Name)
+#define QB_ZUGRIFF_DoubleEigen(Name)
+#define QB_ZUGRIFF_DateEigen(Name)
+#define QB_ZUGRIFF_EnumEigen(Name)
+#define QB_ZUGRIFF_GetText(Name)                                                                             \
+    const RWCString& Get##Name() const { return Name; }                                                      \
+    void Set##Name(const RWCString& v) { Name = v; }
+#define QB_ZUGRIFF_GetFlag(Name)                                                                             \
+    unsigned char Get##Name() const { return Name; }                                                         \
+    void Set##Name(unsigned char v) { Name = v; }
+#define QB_ZUGRIFF_GetInt(Name)                                                                              \
+    const int& Get##Name() const { return Name; }                                                            \
+    void Set##Name(const int& v) { Name = v; }
+#define QB_ZUGRIFF_GetDouble(Name)                                                                           \
+    double Get##Name() const { return Name; }                                                                \
+    void Set##Name(const double& v) { Name = v; }
 
-// The members of an array's elements, Name_0 to Name_<Anzahl-1>, as member pointers of Klasse.
-#define QB_ELEMENTE_1(K, N) &K::N##_0
-#define QB_ELEMENTE_2(K, N) QB_ELEMENTE_1(K, N), &K::N##_1
-#define QB_ELEMENTE_3(K, N) QB_ELEMENTE_2(K, N), &K::N##_2
-#define QB_ELEMENTE_4(K, N) QB_ELEMENTE_3(K, N), &K::N##_3
-#define QB_ELEMENTE_5(K, N) QB_ELEMENTE_4(K, N), &K::N##_4
-#define QB_ELEMENTE_6(K, N) QB_ELEMENTE_5(K, N), &K::N##_5
-#define QB_ELEMENTE_7(K, N) QB_ELEMENTE_6(K, N), &K::N##_6
-#define QB_ELEMENTE_8(K, N) QB_ELEMENTE_7(K, N), &K::N##_7
-#define QB_ELEMENTE_9(K, N) QB_ELEMENTE_8(K, N), &K::N##_8
-#define QB_ELEMENTE_10(K, N) QB_ELEMENTE_9(K, N), &K::N##_9
+// ---- Arrays
 
-// The indexed accessors of an array held as the members Name_0 ..., index first and without bounds
-// check: the caller keeps the index within 0 to Anzahl - 1. Typ is the element type of the field list.
-#define QB_REIHE(Klasse, Typ, Name, Anzahl)                                                                  \
-                                                                                                             \
-private:                                                                                                     \
-    static QB_MITGLIED_##Typ Klasse::*Name##_element(int index) {                                            \
-        static constexpr QB_MITGLIED_##Typ Klasse::*elemente[] = {QB_ELEMENTE_##Anzahl(Klasse, Name)};       \
-        return elemente[index];                                                                              \
+// Entry i of the array Name as a row of its own: member Name_i, XML key "Name[i]", no generated accessors.
+#define QB_EINTRAG(FELD, Typ, Name, i, ...) FELD(Typ##Eigen, Name##_##i, .xml(#Name "[" #i "]") __VA_ARGS__)
+// The rows of all passes, index by index: Durchlauf(FELD, i) lists the rows of pass i.
+#define QB_DURCHLAEUFE_2(Durchlauf, FELD) Durchlauf(FELD, 0) Durchlauf(FELD, 1)
+#define QB_DURCHLAEUFE_10(Durchlauf, FELD)                                                                   \
+    QB_DURCHLAEUFE_2(Durchlauf, FELD)                                                                        \
+    Durchlauf(FELD, 2) Durchlauf(FELD, 3) Durchlauf(FELD, 4) Durchlauf(FELD, 5) Durchlauf(FELD, 6)           \
+        Durchlauf(FELD, 7) Durchlauf(FELD, 8) Durchlauf(FELD, 9)
+// In the class body: Name##_Eintrag(i), the member of entry i of an array of n (2 or 10) entries. The
+// index is not checked, as the accessors that use it do not check theirs.
+#define QB_EINTRAG_ZEIGER_1(K, N) &K::N##_0
+#define QB_EINTRAG_ZEIGER_2(K, N) QB_EINTRAG_ZEIGER_1(K, N), &K::N##_1
+#define QB_EINTRAG_ZEIGER_3(K, N) QB_EINTRAG_ZEIGER_2(K, N), &K::N##_2
+#define QB_EINTRAG_ZEIGER_4(K, N) QB_EINTRAG_ZEIGER_3(K, N), &K::N##_3
+#define QB_EINTRAG_ZEIGER_5(K, N) QB_EINTRAG_ZEIGER_4(K, N), &K::N##_4
+#define QB_EINTRAG_ZEIGER_6(K, N) QB_EINTRAG_ZEIGER_5(K, N), &K::N##_5
+#define QB_EINTRAG_ZEIGER_7(K, N) QB_EINTRAG_ZEIGER_6(K, N), &K::N##_6
+#define QB_EINTRAG_ZEIGER_8(K, N) QB_EINTRAG_ZEIGER_7(K, N), &K::N##_7
+#define QB_EINTRAG_ZEIGER_9(K, N) QB_EINTRAG_ZEIGER_8(K, N), &K::N##_8
+#define QB_EINTRAG_ZEIGER_10(K, N) QB_EINTRAG_ZEIGER_9(K, N), &K::N##_9
+#define QB_EINTRAEGE(Klasse, T, Name, n)                                                                     \
+    static auto Name##_Eintrag(int i) {                                                                      \
+        static constexpr T Klasse::*eintraege[] = {QB_EINTRAG_ZEIGER_##n(Klasse, Name)};                     \
+        return eintraege[i];                                                                                 \
+    }
+// Accessors of an array by index: Get<Name>(i) and Set<Name>(i, v), the index first ...
+#define QB_REIHE_INDEX_ZUERST(Klasse, T, Name, n)                                                            \
+    QB_EINTRAEGE(Klasse, T, Name, n)                                                                         \
+    const T& Get##Name(int i) const { return this->*Name##_Eintrag(i); }                                     \
+    void Set##Name(int i, const T& v) { this->*Name##_Eintrag(i) = v; }
+// ... or Set<Name>(v, i), the value first; a text by reference, a number by value.
+#define QB_REIHE_WERT_ZUERST(Klasse, T, Name, n)                                                             \
+    QB_EINTRAEGE(Klasse, T, Name, n)                                                                         \
+    std::conditional_t<std::is_class_v<T>, const T&, T> Get##Name(int i) const {                             \
+        return this->*Name##_Eintrag(i);                                                                     \
     }                                                                                                        \
-                                                                                                             \
-public:                                                                                                      \
-    QB_MITGLIED_##Typ Ref##Name(int index) const { return this->*Name##_element(index); }                    \
-    void Ref##Name(int index, QB_MITGLIED_##Typ wert) { this->*Name##_element(index) = wert; }
+    void Set##Name(std::conditional_t<std::is_class_v<T>, const T&, T> v, int i) {                           \
+        this->*Name##_Eintrag(i) = v;                                                                        \
+    }
+// ... or Ref<Name>(i) and Ref<Name>(i, v), by value, for an array whose element type is a field list type.
+#define QB_REIHE(Klasse, Typ, Name, n)                                                                       \
+    QB_EINTRAEGE(Klasse, QB_MITGLIED_##Typ, Name, n)                                                         \
+    QB_MITGLIED_##Typ Ref##Name(int i) const { return this->*Name##_Eintrag(i); }                            \
+    void Ref##Name(int i, QB_MITGLIED_##Typ wert) { this->*Name##_Eintrag(i) = wert; }
 
 // Expansions of one row of a field list.
 #define QB_FELD_ZUGRIFF(Typ, Name, ...) QB_ZUGRIFF_##Typ(Name)

@@ -65,7 +65,7 @@ private:
     std::initializer_list<const qbFeldTabelle*> tabellen_;
 };
 
-bool gehoertDazu(const qbSchritt& schritt, const qbFormular& form, int schluessel) {
+bool gehoertDazu(const qbSchritt& schritt, const qbFormular& form, long schluessel) {
     if (schluessel < schritt.abSchluessel) return false;
     if (schritt.vorSchluessel && schluessel >= schritt.vorSchluessel) return false;
     return !schritt.nurVersion || form.RefVersion() == schritt.nurVersion;
@@ -73,8 +73,7 @@ bool gehoertDazu(const qbSchritt& schritt, const qbFormular& form, int schluesse
 
 template <class Strom>
 void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
-                  std::initializer_list<const qbFeldTabelle*> tabellen) {
-    const int schluessel = qbVersionsSchluessel(form.RefVersion());
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long schluessel) {
     for (size_t i = 0; i < layout.anzahl; ++i) {
         const qbSchritt& schritt = layout.schritte[i];
         if (!gehoertDazu(schritt, form, schluessel)) continue;
@@ -111,13 +110,23 @@ void liesSchritte(qbFormular& form, Strom& s, const qbLayout& layout,
 
 void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen) {
-    qbMeldeLayout(tabellen.size() ? (*tabellen.begin())->klasse() : "", layout.name);
-    liesSchritte(form, f, layout, tabellen);
+    qbLiesLayout(form, f, layout, tabellen, qbVersionsSchluessel(form.RefVersion()));
 }
 
 void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen) {
-    liesSchritte(form, s, layout, tabellen);
+    qbLiesLayout(form, s, layout, tabellen, qbVersionsSchluessel(form.RefVersion()));
+}
+
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel) {
+    qbMeldeLayout(tabellen.size() ? (*tabellen.begin())->klasse() : "", layout.name);
+    liesSchritte(form, f, layout, tabellen, versionsSchluessel);
+}
+
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel) {
+    liesSchritte(form, s, layout, tabellen, versionsSchluessel);
 }
 
 void qbMeldeLayout(const char* klasse, const char* layout) {

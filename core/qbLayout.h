@@ -71,6 +71,7 @@ constexpr qbSchritt Char{qbArt::Char};
 constexpr qbSchritt Int{qbArt::Int};
 constexpr qbSchritt Long{qbArt::Long};
 constexpr qbSchritt Double{qbArt::Double};
+constexpr qbSchritt Date{qbArt::Date};
 } // namespace qbVerworfen
 
 struct qbLayout {
@@ -87,6 +88,11 @@ void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen);
 void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
                   std::initializer_list<const qbFeldTabelle*> tabellen);
+// The same for a form whose version key follows a rule of its own: the steps are chosen by that key.
+void qbLiesLayout(qbFormular& form, RWFile& f, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel);
+void qbLiesLayout(qbFormular& form, RWvistream& s, const qbLayout& layout,
+                  std::initializer_list<const qbFeldTabelle*> tabellen, long versionsSchluessel);
 
 // Tells an installed read observer which layout a restore chose.
 void qbMeldeLayout(const char* klasse, const char* layout);

@@ -31,12 +31,12 @@
     FELD(Text, Schulbildung)                                                                                 \
     FELD(Text, Berufsausbildung)                                                                             \
     FELD(Double, Nettoeinkommen)                                                                             \
-    FELD(IntOhneZugriff, Jahre_0)                                                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_0)                                                      \
-    FELD(IntOhneZugriff, Jahre_1)                                                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_1)                                                      \
-    FELD(IntOhneZugriff, Jahre_2)                                                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_2)                                                      \
+    FELD(IntEigen, Jahre_0)                                                                                  \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_0)                                                            \
+    FELD(IntEigen, Jahre_1)                                                                                  \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_1)                                                            \
+    FELD(IntEigen, Jahre_2)                                                                                  \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_2)                                                            \
     FELD(Double, weitereEinkommen)                                                                           \
     FELD(TextKopie, BeschreibungNebenJob, .liesAb(200205))                                                   \
     FELD(Flag, Sozialversicherung, .standard(0))                                                             \

@@ -8,10 +8,10 @@
 // HoeheAnwartschaft and bVersBUZ2 to bVersPRZ2 came with 03.2009, the Gewinn array with 12.2003. In XML
 // both arrays stand last (see the .cpp).
 #define QB_FELDER_qbFormularGS004BUZ(FELD)                                                                   \
-    FELD(FlagOhneZugriff, IBU, .standard(0))                                                                 \
-    FELD(FlagOhneZugriff, EUZ, .standard(0))                                                                 \
-    FELD(FlagOhneZugriff, BUZ, .standard(0))                                                                 \
-    FELD(FlagOhneZugriff, PRZ, .standard(0))                                                                 \
+    FELD(FlagEigen, IBU, .standard(0))                                                                       \
+    FELD(FlagEigen, EUZ, .standard(0))                                                                       \
+    FELD(FlagEigen, BUZ, .standard(0))                                                                       \
+    FELD(FlagEigen, PRZ, .standard(0))                                                                       \
     FELD(Flag, LehreJN)                                                                                      \
     FELD(Text, Lehre)                                                                                        \
     FELD(Flag, FachausbildungJN)                                                                             \
@@ -22,12 +22,9 @@
     FELD(Text, Studium)                                                                                      \
     FELD(Text, TaetigkeitsBeschreibung)                                                                      \
     FELD(Text, StellungImBetrieb)                                                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_0,                                                      \
-         .xml("EinkommenInLetztenJahren[0]").xmlInDurchgaengen())                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_1,                                                      \
-         .xml("EinkommenInLetztenJahren[1]").xmlInDurchgaengen())                                            \
-    FELD(DoubleOhneZugriff, EinkommenInLetztenJahren_2,                                                      \
-         .xml("EinkommenInLetztenJahren[2]").xmlInDurchgaengen())                                            \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_0, .xml("EinkommenInLetztenJahren[0]").xmlInDurchgaengen())   \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_1, .xml("EinkommenInLetztenJahren[1]").xmlInDurchgaengen())   \
+    FELD(DoubleEigen, EinkommenInLetztenJahren_2, .xml("EinkommenInLetztenJahren[2]").xmlInDurchgaengen())   \
     FELD(Flag, keineAnsprueche, .standard(0))                                                                \
     FELD(Flag, Sozialversicherung, .standard(0))                                                             \
     FELD(Flag, berufsstaendischeVersorgung, .standard(0))                                                    \
@@ -55,11 +52,11 @@
     FELD(Text, KaufmaennischTeilzeit)                                                                        \
     FELD(Text, HandwerklichVollzeit)                                                                         \
     FELD(Text, HandwerklichTeilzeit)                                                                         \
-    FELD(DoubleOhneZugriff, GewinnInLetztenJahren_0,                                                         \
+    FELD(DoubleEigen, GewinnInLetztenJahren_0,                                                               \
          .xml("GewinnInLetztenJahren[0]").liesAb(200312).xmlInDurchgaengen())                                \
-    FELD(DoubleOhneZugriff, GewinnInLetztenJahren_1,                                                         \
+    FELD(DoubleEigen, GewinnInLetztenJahren_1,                                                               \
          .xml("GewinnInLetztenJahren[1]").liesAb(200312).xmlInDurchgaengen())                                \
-    FELD(DoubleOhneZugriff, GewinnInLetztenJahren_2,                                                         \
+    FELD(DoubleEigen, GewinnInLetztenJahren_2,                                                               \
          .xml("GewinnInLetztenJahren[2]").liesAb(200312).xmlInDurchgaengen())
 
 class qbFormularGS004BUZ : public qbFormular {

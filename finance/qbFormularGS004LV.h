@@ -7,7 +7,7 @@
 
 // Every field starts at its type's empty value: KonkursJN at 0, unlike its namesake in qbFormularGS004.
 #define QB_FELDER_qbFormularGS004LV(FELD)                                                                    \
-    FELD(FlagOhneZugriff, LV, .standard(0))                                                                  \
+    FELD(FlagEigen, LV, .standard(0))                                                                        \
     FELD(Text, ZweckDesVertragsabschlusses)                                                                  \
     FELD(Text, sonstigeZwecke)                                                                               \
     FELD(Text, Objekt)                                                                                       \

@@ -7,7 +7,7 @@
 
 // Each sport's name stands ahead of its three flags, unlike in qbFormularGS004.
 #define QB_FELDER_qbFormularGS004UZ(FELD)                                                                    \
-    FELD(FlagOhneZugriff, UZ, .standard(0))                                                                  \
+    FELD(FlagEigen, UZ, .standard(0))                                                                        \
     FELD(Text, ZweckUZ)                                                                                      \
     FELD(Text, sonstigeZweckeUZ)                                                                             \
     FELD(Text, VerpflichtungenBeiUnfallTodArt)                                                               \

@@ -65,6 +65,19 @@ void erwarteGelesen(const qbKlasse& k, const qbFormular& form, const qbFormular&
         }
 }
 
+// The record the tables write (on a virtual stream the header alone for a form stored on an RWFile only),
+// with the second Version of the classes that write one behind the header.
+template <class Strom>
+void tabellenSchreiben(const qbKlasse& k, const qbFormular& form, Strom& s) {
+    auto tabellen = kette(k);
+    for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t) {
+        if constexpr (!std::is_same_v<Strom, RWFile>)
+            if (nurAufDatei(k) && *t != &qbFormular::felder()) continue; // the header alone
+        (*t)->schreibe(form, s);
+        if (*t == &qbFormular::felder() && abweichung(k).zweiteVersion) form.RefVersion().saveOn(s);
+    }
+}
+
 // Bytes of saveGuts(RWFile&) alone.
 size_t gespeicherteBytes(const qbFormular& form) {
     TempFile tmp("groesse");
@@ -153,7 +166,7 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughRWFileAndTheFactory) {
 // not take back whole cannot be an element read by the vendor's machinery: its guts go directly.
 TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
     const qbKlasse& k = *GetParam();
-    if (liestVirtuellNichtZurueck(k))
+    if (liestVirtuellNichtZurueck(k) || abweichung(k).virtuellUnlesbar)
         GTEST_SKIP() << "its virtual-stream record does not read back, by design";
     for (bool portabel : {false, true}) {
         auto form = zufallsFormular(k, 7);
@@ -183,8 +196,12 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughBothVirtualStreams) {
             gelesen.reset(p);
         }
         ASSERT_NE(gelesen, nullptr);
-        erwarteGelesen(k, *form, static_cast<const qbFormular&>(*gelesen),
-                       portabel ? "RWpostream" : "RWbostream", true);
+        if (abweichung(k).nichtsAufVirtuellemStrom) // a pension form arrives as a new object
+            erwarteGleich(k, *erzeuge(k), static_cast<const qbFormular&>(*gelesen),
+                          portabel ? "RWpostream" : "RWbostream");
+        else
+            erwarteGelesen(k, *form, static_cast<const qbFormular&>(*gelesen),
+                           portabel ? "RWpostream" : "RWbostream", true);
     }
 }
 
@@ -199,6 +216,10 @@ TEST_P(JedeKlasse, RandomFieldsRoundTripThroughXmlTextAsTheClassReadsThem) {
     ASSERT_TRUE(gelesenerKnoten.fromXML(knoten.asXML()));
     std::unique_ptr<qbFormular> gelesen(k.ausXml(gelesenerKnoten));
     auto frisch = erzeuge(k);
+    if (abweichung(k).xmlUnterFremdemTyp) { // the class's own XMLputDat refuses the node
+        erwarteGleich(k, *frisch, *gelesen, "XML");
+        return;
+    }
     const bool kopfWirdGelesen =
         std::string(k.basisName) == "qbFormular" || std::string(k.klassenName) == "qbFormular";
     const auto tabellen = kette(k);
@@ -403,9 +424,7 @@ TEST_P(JedeKlasse, InPlaceWriteAndTableWriteOfTheCurrentLayoutGiveTheSameBytes) 
     }
     {
         RWFile f(perTabelle.path(), "wb");
-        auto tabellen = kette(k);
-        for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-            (*t)->schreibe(*form, f);
+        tabellenSchreiben(k, *form, f);
     }
     EXPECT_EQ(hex(readBytes(amStueck.path())), hex(readBytes(perTabelle.path())));
 }
@@ -425,9 +444,12 @@ TEST_P(JedeKlasse, OnePieceWriteAndTableWriteOnTheBinaryStreamGiveTheSameBytes) 
         }
         {
             RWbostream s(perTabelle);
-            auto tabellen = kette(k);
-            for (auto t = tabellen.rbegin(); t != tabellen.rend(); ++t)
-                if (!nurAufDatei(k) || *t == &qbFormular::felder()) (*t)->schreibe(*form, s);
+            if (abweichung(k).virtuellUnlesbar) { // Version alone before the own fields
+                form->RefVersion().saveOn(s);
+                k.felder().schreibe(*form, s);
+            } else if (!abweichung(k).nichtsAufVirtuellemStrom) {
+                tabellenSchreiben(k, *form, s);
+            }
         }
         EXPECT_EQ(hex(bytesOf(amStueck.str())), hex(bytesOf(perTabelle.str()))) << langerText;
     }

@@ -90,6 +90,15 @@ inline AltSatz satzDesLayouts(const qbKlasse& k, const std::string& version,
             case qbArt::Char:
                 satz.zeichen(static_cast<char>('a' + n % 26));
                 break;
+            case qbArt::Bool: // one char; 1 is true
+                satz.zeichen(static_cast<char>(n % 2));
+                break;
+            case qbArt::Enum:
+                satz.zeichen(static_cast<char>(-n));
+                break;
+            case qbArt::Date:
+                satz.datum(2440588u + static_cast<unsigned>(n));
+                break;
             case qbArt::Int:
                 satz.ganz(90000 + n);
                 break;

@@ -9,6 +9,7 @@
 #include "rw/bstream.h"
 #include "rw/cstring.h"
 #include "rw/pstream.h"
+#include "rw/rwdate.h"
 #include "rw/rwfile.h"
 
 #include "test_util.h"
@@ -28,7 +29,7 @@ inline void PrintTo(Strom s, std::ostream* os) { *os << name(s); }
 
 class AltSatz {
 public:
-    enum class Art { Text, Flag, Char, Int, Long, Double };
+    enum class Art { Text, Flag, Char, Int, Long, Double, Date };
     struct Wert {
         Art art;
         std::string text;
@@ -52,6 +53,8 @@ public:
     AltSatz& ganz(int v) { return add({Art::Int, {}, v, 0}); }
     AltSatz& lang(long v) { return add({Art::Long, {}, v, 0}); }
     AltSatz& zahl(double v) { return add({Art::Double, {}, 0, v}); }
+    // A date as its day number (RWFile: 4 bytes unsigned).
+    AltSatz& datum(unsigned long julian) { return add({Art::Date, {}, static_cast<long>(julian), 0}); }
     // n empty texts, n unanswered flags
     AltSatz& texte(int n, const std::string& v = "") {
         for (int i = 0; i < n; ++i)
@@ -90,6 +93,9 @@ public:
             case Art::Double:
                 f.Write(w.gleit);
                 break;
+            case Art::Date:
+                RWDate::fromJulian(static_cast<unsigned long>(w.zahl)).saveOn(f);
+                break;
             }
     }
     void schreibe(RWvostream& s) const {
@@ -112,6 +118,9 @@ public:
                 break;
             case Art::Double:
                 s << w.gleit;
+                break;
+            case Art::Date:
+                RWDate::fromJulian(static_cast<unsigned long>(w.zahl)).saveOn(s);
                 break;
             }
     }

@@ -201,29 +201,30 @@ std::string gruppiert(const std::vector<XmlLuecke>& luecken, const std::vector<X
 
 std::string xmlAsymmetrienText() {
     const std::vector<XmlAsymmetrie> alle = xmlAsymmetrien();
-    // What every class with a print piece leaves behind is said once.
+    // What the base leaves behind is the rule of every class and said once; a class that reads some of it
+    // back says so.
     std::vector<XmlLuecke> ueberall;
-    bool erste = true;
-    for (const XmlAsymmetrie& a : alle) {
-        if (a.klasse->listenart == qbListenart::Basis) continue;
-        if (erste)
-            ueberall = a.nichtZurueckgelesen;
-        else
-            std::erase_if(ueberall, [&](const XmlLuecke& l) { return !enthaelt(a.nichtZurueckgelesen, l); });
-        erste = false;
-    }
+    for (const XmlAsymmetrie& a : alle)
+        if (a.klasse->id == qbId_qbFormular) ueberall = a.nichtZurueckgelesen;
     std::string text =
         umbrochen("What the forms do not read back from XML. This belongs to the stored format "
                   "and is kept; it is no fault of this tool:") +
         "\n";
     if (!ueberall.empty())
-        text += umbrochen("every class: " + gruppiert(ueberall, {}) + " (written, never read back)", "  ",
-                          "    ") +
+        text += umbrochen("every class, unless it says otherwise: " + gruppiert(ueberall, {}) +
+                              " (written, never read back)",
+                          "  ", "    ") +
                 "\n";
     for (const XmlAsymmetrie& a : alle) {
         const std::string zurueck = gruppiert(a.nichtZurueckgelesen, ueberall);
         const std::string fehlt = gruppiert(a.nichtGeschrieben, {});
-        if (zurueck.empty() && fehlt.empty() && a.klasse->imXmlImport) continue;
+        std::vector<XmlLuecke> gelesen; // of what most classes leave behind
+        if (a.klasse->listenart != qbListenart::Basis)
+            for (const XmlLuecke& l : ueberall)
+                if (!enthaelt(a.nichtZurueckgelesen, l) && !enthaelt(a.nichtGeschrieben, l))
+                    gelesen.push_back(l);
+        const std::string dochGelesen = gruppiert(gelesen, {});
+        if (zurueck.empty() && fehlt.empty() && dochGelesen.empty() && a.klasse->imXmlImport) continue;
         std::string kopf = a.klasse->klassenName;
         if (*a.klasse->nummer) kopf += std::string(" (") + a.klasse->nummer + ")";
         text += "  " + kopf + ":\n";
@@ -233,6 +234,8 @@ std::string xmlAsymmetrienText() {
         if (!zurueck.empty())
             text += umbrochen("written, not read back: " + zurueck, "    ", "      ") + "\n";
         if (!fehlt.empty()) text += umbrochen("not in its XML at all: " + fehlt, "    ", "      ") + "\n";
+        if (!dochGelesen.empty())
+            text += umbrochen("read back all the same: " + dochGelesen, "    ", "      ") + "\n";
     }
     while (!text.empty() && text.back() == '\n')
         text.pop_back();

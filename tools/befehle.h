@@ -43,6 +43,7 @@ void richteUpgradeEin(CLI::App& haupt, Befehle& befehle);
 void richteCatalogEin(CLI::App& haupt, Befehle& befehle);
 void richteExplainEin(CLI::App& haupt, Befehle& befehle);
 void richteConvertEin(CLI::App& haupt, Befehle& befehle);
+void richteCheckEin(CLI::App& haupt, Befehle& befehle);
 
 } // namespace qbtool
 

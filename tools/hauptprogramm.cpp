@@ -55,6 +55,7 @@ int hauptprogramm(int argc, char** argv) {
     richteCatalogEin(haupt, befehle);
     richteExplainEin(haupt, befehle);
     richteConvertEin(haupt, befehle);
+    richteCheckEin(haupt, befehle);
 
     try {
         haupt.parse(argc, argv);

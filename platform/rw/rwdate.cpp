@@ -3,6 +3,7 @@
 #include "rw/rwfile.h"
 #include "rw/vstream.h"
 
+#include <atomic>
 #include <ctime>
 #include <string>
 
@@ -64,7 +65,17 @@ void appendNumber(std::string& out, unsigned long value, size_t minDigits) {
 
 } // namespace
 
+namespace {
+std::atomic<unsigned long> fixedToday{0};
+}
+
+unsigned long RWDate::fixToday(unsigned long julianDay) { return fixedToday.exchange(julianDay); }
+
 RWDate::RWDate() {
+    if (unsigned long fixed = fixedToday.load()) {
+        julian_ = fixed;
+        return;
+    }
     std::time_t now = std::time(nullptr);
     struct tm local;
     if (localtime_r(&now, &local))

@@ -21,6 +21,9 @@ public:
     // Parsed with the locale; text that is no date gives the invalid date.
     explicit RWDate(const RWCString& text, const RWLocale& locale = RWLocale::global());
     static RWDate fromJulian(unsigned long julianDay);
+    // Fixes the day that RWDate() gives as today (tests of date logic); 0 returns to the clock. Returns the
+    // day fixed before, or 0.
+    static unsigned long fixToday(unsigned long julianDay);
 
     unsigned long julian() const { return julian_; }
     void julian(unsigned long julianDay) { julian_ = julianDay; }

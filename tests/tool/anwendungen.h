@@ -62,6 +62,9 @@ inline std::unique_ptr<qbFormularListe> lies(const std::string& pfad) {
 
 // The stored example of old record layouts in the checkout.
 inline std::string legacyBeispiel() { return std::string(QBFORMUL_SOURCE_DIR) + "/" + kLegacyBeispielPfad; }
+inline std::string vorsorgeBeispiel() {
+    return std::string(QBFORMUL_SOURCE_DIR) + "/" + kVorsorgeBeispielPfad;
+}
 
 // What the tool writes for a file: the list restored and stored again by the library.
 inline std::string neuGespeichert(const std::string& pfad, const Ordner& ordner) {

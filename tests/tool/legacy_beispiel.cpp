@@ -19,6 +19,8 @@
 #include "health/qbFormularL241.h"
 #include "health/qbFormularL243.h"
 #include "health/qbFormularL249.h"
+#include "pension/qbFormularBAV.h"
+#include "pension/qbFormularGN056.h"
 #include "rw/dlistcol.h"
 #include "sport/qbFormularL036.h"
 #include "sport/qbFormularL440.h"
@@ -1348,6 +1350,58 @@ AltSatz gs004UZVon2003() {
     return s.text("").flag(0).text("");                                    // ArtWettkampf, GefahrJN, Gefahr
 }
 
+// A pension form as the writers of its versions left it, by the form's own key: eight texts and a Double
+// up to 10.2006 that the form has dropped, the fields that came with 12.2002, 08.2003 and 01.2005, the
+// Char before ZusageDatum before 08.2003, the three values at the end of 10.2006, and the fields of the
+// ten-character versions.
+AltSatz bavVon(const std::string& version) {
+    const long k = qbFormularBAV::versionsSchluessel(RWCString(version));
+    AltSatz s = AltSatz::kopf(version, "BAV", "", 1, "VP1");
+    if (k <= 200610) s.text("Muster GmbH").text("Industriestr. 5").text("93047").text("Regensburg").texte(4);
+    s.zeichen(1).zeichen(0).zeichen(1).text("Weihnachtsgeld").zahl(600.0); // DVAGPauschal ..
+                                                                           // DVSonderZahlungPA
+    if (k <= 200610) s.zahl(1752.0);
+    s.zahl(20.0).zeichen(12).zeichen(0).zeichen(0); // DVLohnsteuer, Beteiligung, UKMitgliedAG, UKMitgliedAN
+    if (k >= 200308) s.zahl(26.59);                 // AGAnteilVWL
+    s.zeichen(0).zeichen(0).zeichen(1);             // PSVAG, PSVAN, TodGesetz
+    if (k >= 200308) s.text("Kinder, Ehegatte bzw. eingetragener Lebenspartner");
+    s.zeichen(0).text(""); // TodFrei, TodFreiName
+    if (k >= 200212) s.flag(0xff);
+    s.datum(0).text("").datum(2451636).text("P-0815"); // TodFreiDatum .. ANPersNr (entry 1 April 2000)
+    if (k < 200308) s.zeichen('J');
+    s.datum(2452276); // ZusageDatum, 1 January 2002
+    if (k >= 200212) s.flag(1).text("UK-4711");
+    if (k >= 200501) s.zeichen(1).datum(2452641); // AltZusage10b, DatumAltZusage 1 January 2003
+    if (k == 200610) return s.text("").datum(0).zeichen(0);
+    if (k >= 20070101) s.zahl(42.0).lang(25).flag(0).zeichen(2).flag(1);
+    return s;
+}
+
+// The allowance application without the second copy of Version (before 01.2006), and with it.
+AltSatz gn056Von(const std::string& kopf, const std::string& zweite) {
+    const int k = zweite.empty() ? 0 : std::atoi((zweite.substr(3, 4) + zweite.substr(0, 2)).c_str());
+    AltSatz s = AltSatz::kopf(kopf, "GN056", "Dauerantrag auf Altersvorsorgezulage", 4, "VP1");
+    if (!zweite.empty()) s.text(zweite);
+    s.text("Finanzamt Regensburg")
+        .text("244/123/45678")
+        .text("12 150175 M 003")
+        .text("")
+        .text("Frau")
+        .text("");
+    s.text("Maria").text("Muster").text("15011975").text("Regensburg").text("w").text("deutsch").text("A");
+    s.flag(1).ganz(1).flag(1).flag(1).lang(28000).text("EUR").ganz(1).ganz(2004).ganz(12).ganz(2004);
+    s.lang(0).text("EUR");
+    if (k >= 200601) s.text("Huber").text("");
+    for (int i = 0; i < 10; ++i) {
+        s.text(i ? "" : "Lena").text(i ? "" : "Muster");
+        if (k >= 200704) s.text(i ? "" : "w");
+        s.text(i ? "" : "Regensburg").text(i ? "" : "Familienkasse Regensburg").text(i ? "" : "FK 123");
+        s.text(i ? "" : "Maria").text(i ? "" : "Muster").text(i ? "" : "03032002");
+        s.ganz(i ? 0 : 1).ganz(i ? 0 : 2004).ganz(i ? 0 : 12).ganz(i ? 0 : 2004).flag(0);
+    }
+    return s;
+}
+
 } // namespace
 
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
@@ -1406,8 +1460,30 @@ unsigned legacyBeispielAeltere() {
     return aeltere;
 }
 
+std::vector<std::pair<unsigned short, AltSatz>> vorsorgeBeispielSaetze() {
+    return {
+        {qbFormularBAV::classIsA(), bavVon("11.2001")},
+        {qbFormularBAV::classIsA(), bavVon("12.2002")},
+        {qbFormularBAV::classIsA(), bavVon("08.2003")},
+        {qbFormularBAV::classIsA(), bavVon("01.2005")},
+        {qbFormularBAV::classIsA(), bavVon("10.2006")},
+        {qbFormularBAV::classIsA(), bavVon("11.2006")},
+        {qbFormularBAV::classIsA(), bavVon("01.2007 01")},
+        {qbFormularGN056::classIsA(), gn056Von("01.2005", "")},
+        {qbFormularGN056::classIsA(), gn056Von("01.2006", "01.2006")},
+        {qbFormularGN056::classIsA(), gn056Von("05.2007", "05.2007")},
+    };
+}
+
 bool schreibeLegacyBeispiel(const std::string& pfad) {
-    const std::vector<std::pair<unsigned short, AltSatz>> formulare = legacyBeispielSaetze();
+    return schreibeBeispiel(pfad, legacyBeispielSaetze());
+}
+bool schreibeVorsorgeBeispiel(const std::string& pfad) {
+    return schreibeBeispiel(pfad, vorsorgeBeispielSaetze());
+}
+
+bool schreibeBeispiel(const std::string& pfad,
+                      const std::vector<std::pair<unsigned short, AltSatz>>& formulare) {
     RWFile f(pfad.c_str(), "wb");
     if (!f.isValid()) return false;
     // The list's stream: marker, Version, its collection's class id and count, then each form.

@@ -26,4 +26,14 @@ unsigned legacyBeispielAeltere();
 // Writes the example application file; false when the file cannot be written.
 bool schreibeLegacyBeispiel(const std::string& pfad);
 
+// The second example, examples/legacy/alte-layouts-vorsorge.qbf: the old layouts of the pension form and
+// of the allowance application.
+inline const char* const kVorsorgeBeispielPfad = "examples/legacy/alte-layouts-vorsorge.qbf";
+std::vector<std::pair<unsigned short, AltSatz>> vorsorgeBeispielSaetze();
+bool schreibeVorsorgeBeispiel(const std::string& pfad);
+
+// An application file of these records.
+bool schreibeBeispiel(const std::string& pfad,
+                      const std::vector<std::pair<unsigned short, AltSatz>>& formulare);
+
 } // namespace qbtest
