@@ -46,7 +46,7 @@ void fuelleFormular(const qbKlasse& k, qbFormular& form, std::mt19937& zufall) {
             fuelleZufaellig(z, form, zufall);
 }
 
-// A dozen forms of every class with a print piece, for the three persons in turn (a replacing piece keeps
+// Three forms of every class with a print piece, for the three persons in turn (a replacing piece keeps
 // one per person), and a form of a number no class has, which the list keeps as its header. The list goes
 // over every stream kind: the classes whose record does not read back from a virtual stream stay out.
 std::unique_ptr<qbFormularListe> baueListe(int nr) {
@@ -54,7 +54,7 @@ std::unique_ptr<qbFormularListe> baueListe(int nr) {
     std::mt19937 zufall(static_cast<unsigned>(1000 + nr));
     auto liste = std::make_unique<qbFormularListe>();
     liste->RefVersion("07.2001");
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 3; ++i)
         for (const qbKlasse& k : qbKlassen) {
             if (!*k.nummer || !virtuellerSatzGanzLesbar(k)) continue; // the list goes on every stream kind
             auto form = erzeuge(k);
