@@ -24,7 +24,7 @@ const char* layoutL300(int schluessel) {
     case 200908:
         return nullptr;
     default:
-        return "vor 10.2002";
+        return "andere Version: Layout vor 10.2002";
     }
 }
 
