@@ -63,8 +63,9 @@ inline Abweichung abweichung(const qbKlasse& k) {
 // Forms stored on an RWFile only: their virtual-stream operations are qbFormular's, so a virtual stream
 // carries their header alone.
 inline bool nurAufDatei(const qbKlasse& k) {
-    static const char* const kNurDatei[] = {"qbFormularGS004BUZ", "qbFormularGS004LV", "qbFormularGS004UZ",
-                                            "qbFormularAU523",    "qbFormularVB077",   "qbFormularAenderungsprotokoll"};
+    static const char* const kNurDatei[] = {"qbFormularGS004BUZ", "qbFormularGS004LV",
+                                            "qbFormularGS004UZ",  "qbFormularAU523",
+                                            "qbFormularVB077",    "qbFormularAenderungsprotokoll"};
     for (const char* name : kNurDatei)
         if (std::string(name) == k.klassenName) return true;
     return false;
