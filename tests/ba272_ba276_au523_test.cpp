@@ -361,3 +361,26 @@ TEST(AU523, LoescheResetsBothPersonsAndPutsVP1Back) {
 
 INSTANTIATE_TEST_SUITE_P(BeideVirtuellen, MitgliedVirtuell, ::testing::Values(Strom::Binaer, Strom::Portabel),
                          stromName);
+
+TEST(BA272, SavedRecordIsTheHeaderAndTheTableInOrder) {
+    qbFormularBA272 f;
+    f.RefMonat("12");
+    f.RefIHKJN(1);
+    f.RefKammerOrt("Passau");
+    const Bytes erwartet = AltSatz::kopf("12.2001", "BA272", "UFB-UMU-Aufnahmeantrag", 1, "VN")
+                               .text("12")
+                               .texte(24)
+                               .flag(0)
+                               .flag(1)
+                               .text("")
+                               .flag(0)
+                               .text("")
+                               .flag(0)
+                               .text("")
+                               .text("Passau")
+                               .text("")
+                               .flags(3, 0)
+                               .texte(5)
+                               .bytes();
+    EXPECT_EQ(gespeichert(f), erwartet);
+}

@@ -494,3 +494,14 @@ TEST(VB077A, ConstructorSetsTheHeader) {
 
 INSTANTIATE_TEST_SUITE_P(BeideVirtuellen, VB077Virtuell, ::testing::Values(Strom::Binaer, Strom::Portabel),
                          stromName);
+
+TEST(VB077A, SavedRecordIsTheHeaderAndItsFourTexts) {
+    qbFormularVB077A f;
+    f.RefNationalitaetEhegatte("italienisch");
+    const Bytes erwartet = AltSatz::kopf("11.2001", "VB077A", "Ausländischer Antragsteller"_cp1252, 1, "VN")
+                               .texte(2)
+                               .text("italienisch")
+                               .text("")
+                               .bytes();
+    EXPECT_EQ(gespeichert(f), erwartet);
+}
