@@ -99,6 +99,13 @@ void qbFeldTabelle::kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
     }
 }
 
+bool qbFeldTabelle::gleich(const qbFormular& a, const qbFormular& b, bool (*zaehlt)(const qbFeld&)) const {
+    bool gleich = true;
+    for (const qbFeld& z : *this)
+        if (!zaehlt || zaehlt(z)) mitMitglied(z, [&](auto m) { gleich = gleich && a.*m == b.*m; });
+    return gleich;
+}
+
 // ---- Streams
 
 void qbFeldTabelle::schreibe(const qbFormular& form, RWFile& f) const { schreibeZeilen(*this, form, f); }

@@ -236,6 +236,9 @@ public:
     // Every field but the named ones, which keep the target's values.
     void kopiereAusser(qbFormular& ziel, const qbFormular& quelle,
                        std::initializer_list<const char*> ausser) const;
+    // Whether two forms hold the same value in every row (or in every row for which zaehlt holds), for a
+    // form's operator== of its own.
+    bool gleich(const qbFormular& a, const qbFormular& b, bool (*zaehlt)(const qbFeld&) = nullptr) const;
 
     void schreibe(const qbFormular& form, RWFile& f) const;
     void schreibe(const qbFormular& form, RWvostream& s) const;

@@ -147,6 +147,16 @@
 #define QB_FORMULAR_SPEICHERN(Klasse)                                                                        \
     QB_FORMULAR_SPEICHERN_DATEI(Klasse)                                                                      \
     QB_FORMULAR_SPEICHERN_STROM(Klasse)
+// The same without a stamp: Version is written as it stands, so a restored old record keeps its version.
+#define QB_FORMULAR_SPEICHERN_OHNE_STEMPEL(Klasse)                                                           \
+    void Klasse::saveGuts(RWFile& f) const {                                                                 \
+        Basisklasse::saveGuts(f);                                                                            \
+        schreibeEigene(f);                                                                                   \
+    }                                                                                                        \
+    void Klasse::saveGuts(RWvostream& s) const {                                                             \
+        Basisklasse::saveGuts(s);                                                                            \
+        schreibeEigene(s);                                                                                   \
+    }
 #define QB_FORMULAR_LADEN(Klasse)                                                                            \
     void Klasse::restoreGuts(RWFile& f) {                                                                    \
         Basisklasse::restoreGuts(f);                                                                         \
@@ -184,9 +194,12 @@
 // The same, with the nested node filled by the base's XMLgetDat (for a health form: the header and the
 // common answers, which the import never reads back).
 #define QB_FORMULAR_XML_BASISKNOTEN(Klasse) QB_FORMULAR_XML_KNOTEN_VON(Klasse, Basisklasse)
-#define QB_FORMULAR_XML_KNOTEN_VON(Klasse, Knotenklasse)                                                     \
+#define QB_FORMULAR_XML_KNOTEN_VON(Klasse, Knotenklasse) QB_FORMULAR_XML_KNOTEN(Klasse, Knotenklasse, #Klasse)
+// The same with the node typed with another class's name, which this form's own XMLputDat then refuses.
+#define QB_FORMULAR_XML_UNTER_TYP(Klasse, Knotentyp) QB_FORMULAR_XML_KNOTEN(Klasse, qbFormular, Knotentyp)
+#define QB_FORMULAR_XML_KNOTEN(Klasse, Knotenklasse, Knotentyp)                                              \
     void Klasse::XMLgetDat(CQBXMLdata& knoten) const {                                                       \
-        knoten.clear(klassenName());                                                                         \
+        knoten.clear(Knotentyp);                                                                             \
         CQBXMLdata kopf("");                                                                                 \
         Knotenklasse::XMLgetDat(kopf);                                                                       \
         knoten.add(std::move(kopf));                                                                         \
@@ -223,6 +236,20 @@
     void Klasse::loesche() {                                                                                 \
         PersonenKennung = "";                                                                                \
         *this = Klasse();                                                                                    \
+    }
+
+// A reset by hand: PersonenKennung emptied and the own fields back to their defaults; Version, number,
+// name and page count stay. _MIT_PERSON puts the class's default person back afterwards.
+#define QB_FORMULAR_LOESCHE_VON_HAND(Klasse)                                                                 \
+    void Klasse::loesche() {                                                                                 \
+        PersonenKennung = "";                                                                                \
+        setzeStandard();                                                                                     \
+    }
+#define QB_FORMULAR_LOESCHE_VON_HAND_MIT_PERSON(Klasse)                                                      \
+    void Klasse::loesche() {                                                                                 \
+        PersonenKennung = "";                                                                                \
+        PersonenKennung = qbKlassen[qbIndex_##Klasse].person;                                                \
+        setzeStandard();                                                                                     \
     }
 
 // A conversion constructor from a form of another class: a fresh object, assigned a second fresh one so

@@ -17,6 +17,7 @@
 //
 // Typ is one of the field types of qbFeld.h, or a variant that changes only the accessors:
 //   TextKopie    getter and setter pass the text by value
+//   TextKopieNichtKonst, PersonKopie   a getter that is not const gives a copy; the setter takes a const&
 //   TextWert     setter takes the text by value
 //   IntKonstRef  setter takes a const int&
 //   <Typ>Eigen   no generated accessors: the form writes its own (TextEigen, BoolEigen, DateEigen ...)
@@ -50,6 +51,8 @@
 #define QB_MITGLIED_Double double
 #define QB_MITGLIED_Date RWDate
 #define QB_MITGLIED_Person qbPerson
+#define QB_MITGLIED_PersonKopie qbPerson
+#define QB_MITGLIED_TextKopieNichtKonst RWCString
 #define QB_MITGLIED_Enum int
 #define QB_MITGLIED_TextEigen RWCString
 #define QB_MITGLIED_FlagEigen unsigned char
@@ -76,6 +79,8 @@
 #define QB_ZEILE_Double Double
 #define QB_ZEILE_Date Date
 #define QB_ZEILE_Person Person
+#define QB_ZEILE_PersonKopie Person
+#define QB_ZEILE_TextKopieNichtKonst Text
 #define QB_ZEILE_Enum Enum
 #define QB_ZEILE_TextEigen Text
 #define QB_ZEILE_FlagEigen Flag
@@ -113,6 +118,12 @@
 #define QB_ZUGRIFF_Double(Name) QB_ZUGRIFF_WERT(double, Name)
 #define QB_ZUGRIFF_Date(Name) QB_ZUGRIFF_REF(RWDate, Name)
 #define QB_ZUGRIFF_Person(Name) QB_ZUGRIFF_REF(qbPerson, Name)
+// A copy from a getter that is not const; the setter takes a const reference.
+#define QB_ZUGRIFF_KOPIE_NICHT_KONST(T, Name)                                                                \
+    T Ref##Name() { return Name; }                                                                           \
+    void Ref##Name(const T& v) { Name = v; }
+#define QB_ZUGRIFF_PersonKopie(Name) QB_ZUGRIFF_KOPIE_NICHT_KONST(qbPerson, Name)
+#define QB_ZUGRIFF_TextKopieNichtKonst(Name) QB_ZUGRIFF_KOPIE_NICHT_KONST(RWCString, Name)
 #define QB_ZUGRIFF_Enum(Name) QB_ZUGRIFF_WERT(int, Name)
 #define QB_ZUGRIFF_TextEigen(Name)
 #define QB_ZUGRIFF_FlagEigen(Name)
@@ -141,11 +152,12 @@
 #define QB_EINTRAG(FELD, Typ, Name, i, ...) FELD(Typ##Eigen, Name##_##i, .xml(#Name "[" #i "]") __VA_ARGS__)
 // The rows of all passes, index by index: Durchlauf(FELD, i) lists the rows of pass i.
 #define QB_DURCHLAEUFE_2(Durchlauf, FELD) Durchlauf(FELD, 0) Durchlauf(FELD, 1)
-#define QB_DURCHLAEUFE_10(Durchlauf, FELD)                                                                   \
+#define QB_DURCHLAEUFE_9(Durchlauf, FELD)                                                                    \
     QB_DURCHLAEUFE_2(Durchlauf, FELD)                                                                        \
     Durchlauf(FELD, 2) Durchlauf(FELD, 3) Durchlauf(FELD, 4) Durchlauf(FELD, 5) Durchlauf(FELD, 6)           \
-        Durchlauf(FELD, 7) Durchlauf(FELD, 8) Durchlauf(FELD, 9)
-// In the class body: Name##_Eintrag(i), the member of entry i of an array of n (2 or 10) entries. The
+        Durchlauf(FELD, 7) Durchlauf(FELD, 8)
+#define QB_DURCHLAEUFE_10(Durchlauf, FELD) QB_DURCHLAEUFE_9(Durchlauf, FELD) Durchlauf(FELD, 9)
+// In the class body: Name##_Eintrag(i), the member of entry i of an array of n (1 to 10) entries. The
 // index is not checked, as the accessors that use it do not check theirs.
 #define QB_EINTRAG_ZEIGER_1(K, N) &K::N##_0
 #define QB_EINTRAG_ZEIGER_2(K, N) QB_EINTRAG_ZEIGER_1(K, N), &K::N##_1

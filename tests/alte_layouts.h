@@ -108,6 +108,10 @@ inline AltSatz satzDesLayouts(const qbKlasse& k, const std::string& version,
             case qbArt::Double:
                 satz.zahl(n + 0.5);
                 break;
+            case qbArt::Person: // the person's own record: fourteen texts
+                for (int t = 0; t < 14; ++t)
+                    satz.text("p" + std::to_string(n) + "_" + std::to_string(t));
+                break;
             default:
                 ADD_FAILURE() << k.klassenName << " " << version
                               << ": the fixture writer has no values of the type of " << g.feld;

@@ -566,6 +566,18 @@ TEST(Beschaedigt, OldLayoutsFoundForEveryClass) {
         // A record of zeros has no second copy of Version: one layout for every version, but the header's.
         {"qbFormularGN056", {"10.1999"}},
         {"qbFormularL095", {"10.1999"}},
+        // L300 by equality: any other key (without and with Seitenanzahl), 10.2002 and 04.2003; VB077 before
+        // 06.2003. The other clerical forms read one layout behind the header.
+        {"qbFormularL300", {"10.1999", "11.2001", "10.2002", "04.2003"}},
+        {"qbFormularL300_2", {"10.1999"}},
+        {"qbFormularKOLL", {"10.1999"}},
+        {"qbFormularGR396", {"10.1999"}},
+        {"qbFormularVB077A", {"10.1999"}},
+        {"qbFormularBA272", {"10.1999"}},
+        {"qbFormularBA276", {"10.1999"}},
+        {"qbFormularVB077", {"10.1999", "11.2001"}},
+        {"qbFormularAenderungsprotokoll", {"10.1999"}},
+        {"qbFormularAU523", {"10.1999"}},
     };
     for (const qbKlasse& k : qbKlassen) {
         std::vector<std::string> gefunden;

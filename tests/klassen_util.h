@@ -49,6 +49,8 @@ inline Abweichung abweichung(const qbKlasse& k) {
     } else if (name == "qbFormularGN056") {
         a.zweiteVersion = true;
         a.groesseNurKopf = true;
+    } else if (name == "qbFormularBA272") {
+        a.xmlUnterFremdemTyp = true;
     } else if (name == "qbFormularL095") {
         a.zweiteVersion = true;
         a.virtuellUnlesbar = true;
@@ -61,15 +63,23 @@ inline Abweichung abweichung(const qbKlasse& k) {
 // Forms stored on an RWFile only: their virtual-stream operations are qbFormular's, so a virtual stream
 // carries their header alone.
 inline bool nurAufDatei(const qbKlasse& k) {
-    static const char* const kNurDatei[] = {"qbFormularGS004BUZ", "qbFormularGS004LV", "qbFormularGS004UZ"};
+    static const char* const kNurDatei[] = {"qbFormularGS004BUZ", "qbFormularGS004LV",
+                                            "qbFormularGS004UZ",  "qbFormularAU523",
+                                            "qbFormularVB077",    "qbFormularAenderungsprotokoll"};
     for (const char* name : kNurDatei)
         if (std::string(name) == k.klassenName) return true;
     return false;
 }
 
+// Forms stored on an RWFile only whose binaryStoreSize counts their own fields all the same.
+inline bool nurAufDateiMitEigenerGroesse(const qbKlasse& k) {
+    return std::string(k.klassenName) == "qbFormularVB077" ||
+           std::string(k.klassenName) == "qbFormularAenderungsprotokoll";
+}
+
 // Forms whose binaryStoreSize is their base's figure although their record is longer.
 inline bool groesseOhneEigeneFelder(const qbKlasse& k) {
-    return nurAufDatei(k) || abweichung(k).groesseNurKopf;
+    return (nurAufDatei(k) && !nurAufDateiMitEigenerGroesse(k)) || abweichung(k).groesseNurKopf;
 }
 
 // Whether a field of the class (in table t of its chain) comes back from a virtual stream: not for a form
@@ -107,7 +117,8 @@ inline bool virtuellRundreise(const qbKlasse& k) {
 // Whether the class has XML of its own: a form declared without it has no XML keys in its rows, and its
 // XMLgetDat and XMLputDat are qbFormular's.
 inline bool hatEigenesXml(const qbKlasse& k) {
-    if (k.id == qbId_qbFormular) return true;
+    // AU523's node of its own holds the header alone: its rows have no keys.
+    if (k.id == qbId_qbFormular || k.id == qbId_qbFormularAU523) return true;
     for (const qbFeld& z : k.felder())
         if (z.xmlSchreibKey || z.xmlLeseKey) return true;
     return false;

@@ -610,15 +610,15 @@ TEST(FormularListe, FormWithEmptyNumberIsStoredAsPlainQbFormular) {
 TEST(FormularListe, FormWithAnUnknownNumberKeepsOnlyItsHeader) {
     qbFormularListe liste;
     qbFormularL440 f = l440("VP1");
-    f.RefDruckstueckNummer("L300"); // a piece whose class is not built behaves as unknown
+    f.RefDruckstueckNummer("L999"); // a piece without a class
     liste.neuesFormular(f);
     liste.neuesFormular(f);
     ASSERT_EQ(liste.AnzahlFormulare(), 2u);
     const qbFormular* gespeichert = liste.liefereFormularAnPos(1);
     EXPECT_EQ(gespeichert->isA(), qbFormular::classIsA());
-    EXPECT_EQ(gespeichert->RefDruckstueckNummer(), "L300");
+    EXPECT_EQ(gespeichert->RefDruckstueckNummer(), "L999");
     EXPECT_EQ(satz(*gespeichert).size(), gespeichert->binaryStoreSize()); // the header alone
-    EXPECT_FALSE(liste.FormularVorhanden("L300", 0));
+    EXPECT_FALSE(liste.FormularVorhanden("L999", 0));
 }
 
 TEST(FormularListe, BareFormWithAKnownNumberIsStoredAsThatClassWithItsHeader) {
@@ -1323,7 +1323,7 @@ TEST(ListenXml, WrongTypeOrMissingListeChildIsIgnored) {
 TEST(ListenXml, EntriesOfUnknownTypeAreSkipped) {
     CQBXMLdata sammlung("RWDlistCollectables");
     sammlung.Attribute("Liste");
-    for (const char* typ : {"qbFormularGS004", "qbFormularL300", "qbFormularListe", "irgendwas", ""}) {
+    for (const char* typ : {"qbFormularGS004", "qbFormularL999", "qbFormularListe", "irgendwas", ""}) {
         CQBXMLdata element("");
         qbFormularL440().qbFormular::XMLgetDat(element);
         element.Typ(typ);
@@ -1358,7 +1358,7 @@ TEST(ListenXml, HealthBaseEntryIsStoredAsAPlainQbFormular) {
 
 TEST(ListenXml, BareEntryOfAnUnknownNumberIsStoredAsAPlainQbFormular) {
     qbFormular kopf;
-    kopf.RefDruckstueckNummer("L300");
+    kopf.RefDruckstueckNummer("L999");
     kopf.RefPersonenKennung("VN");
     CQBXMLdata element("");
     kopf.XMLgetDat(element);
@@ -1372,6 +1372,6 @@ TEST(ListenXml, BareEntryOfAnUnknownNumberIsStoredAsAPlainQbFormular) {
     liste.XMLputDat(knoten);
     ASSERT_EQ(liste.AnzahlFormulare(), 1u);
     EXPECT_EQ(liste.liefereFormularAnPos(0)->isA(), qbFormular::classIsA());
-    EXPECT_EQ(liste.liefereFormularAnPos(0)->RefDruckstueckNummer(), "L300");
+    EXPECT_EQ(liste.liefereFormularAnPos(0)->RefDruckstueckNummer(), "L999");
     EXPECT_EQ(liste.liefereFormularAnPos(0)->RefPersonenKennung(), "VN");
 }

@@ -140,7 +140,10 @@ std::vector<XmlAsymmetrie> xmlAsymmetrien() {
         int n = 0;
         for (const qbFeldTabelle* t : tabellenVon(klasse))
             for (const qbFeld& z : *t) {
-                if (z.art == qbArt::Person) continue; // no class exchanges a person through its table's keys
+                if (z.art == qbArt::Person) { // no class exchanges a person through its table's keys
+                    a.nichtGeschrieben.push_back({t->klasse(), z.name});
+                    continue;
+                }
                 zeilen.push_back({t, &z, probe(z, n++, *form)});
                 setze(*form, z, zeilen.back().wert);
             }

@@ -32,7 +32,7 @@ int pruefe(const CheckOptionen& o) {
             const qbKlasse* klasse = qbKlasseZuId(form.isA());
             if (!klasse) continue;
             for (const Pruefung* p : pruefungenDerKlasse(klasse->klassenName)) {
-                const std::string meldung = utf8(RWCString(p->pruefe(form)));
+                const std::string meldung = utf8(p->pruefe(form));
                 fehlgeschlagen = fehlgeschlagen || !meldung.empty();
                 ++geprueft;
                 tabelle.zeile({std::to_string(pos + 1), lesbar(utf8(form.RefDruckstueckNummer())),
@@ -71,7 +71,9 @@ void richteCheckEin(CLI::App& haupt, Befehle& befehle) {
     app->footer(umbrochen(
         "Each form whose class offers checks runs all of them, as the application would before printing: "
         "the pension form (BAV) its checks of direct insurance, support fund and pension plans "
-        "(pruefDatenDV, pruefDatenUK, pruefDatenPF, pruefDatenPK). Per check the form's position, piece, "
+        "(pruefDatenDV, pruefDatenUK, pruefDatenPF, pruefDatenPK), the group tariff clause (KOLL) its check "
+        "of the group contract and the ticks (pruefDaten), the research report (VB077) the list of what is "
+        "missing, page by page (pruefDaten(alle)). Per check the form's position, piece, "
         "person and the message of the first rule that failed, or ok. Dates are checked against today. "
         "Exit code 1 when any check fails, 0 when all pass (also when no form offers a check), 2 for a "
         "file that does not read."));

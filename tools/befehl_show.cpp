@@ -58,7 +58,7 @@ int zeige(const ShowOptionen& o) {
                   << lesbar(utf8(form.RefVersion())) << '\n';
         druckeKnoten(std::cout, formularKnoten(form), "  ");
         if (const auto gespeichert = gespeicherteFelder(form)) {
-            std::cout << "  stored fields (the class has no XML of its own):\n";
+            std::cout << "  stored fields (none of them in the class's XML):\n";
             druckeKnoten(std::cout, *gespeichert, "    ");
         }
     }
@@ -81,7 +81,7 @@ void richteShowEin(CLI::App& haupt, Befehle& befehle) {
         "The fields are what each form's own XMLgetDat gives, nested header nodes under their type. Yes/no "
         "answers read ja, nein or nicht beantwortet. A field a class keeps out of its XML is not shown "
         "(qbformul export --help lists them; qbformul explain shows every stored value); the fields of a "
-        "class without XML of its own (GS004) follow as stored fields. --format xml "
+        "class that keeps them all out of its XML (GS004, AU523) follow as stored fields. --format xml "
         "writes the document export writes, with the selected forms. Exit code 1 when no form matches "
         "the selection."));
     befehle.push_back({app, [o] { return zeige(*o); }});

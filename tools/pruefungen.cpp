@@ -1,5 +1,7 @@
 #include "pruefungen.h"
 
+#include "clerical/qbFormularKOLL.h"
+#include "clerical/qbFormularVB077.h"
 #include "pension/qbFormularBAV.h"
 
 #include <cstring>
@@ -9,8 +11,13 @@ namespace qbtool {
 namespace {
 
 template <class Klasse, const char* (Klasse::*Pruefe)() const>
-const char* ruf(const qbFormular& form) {
+RWCString ruf(const qbFormular& form) {
     return (static_cast<const Klasse&>(form).*Pruefe)();
+}
+
+// The research report lists everything that is missing, page by page.
+RWCString rechercheVollstaendig(const qbFormular& form) {
+    return static_cast<const qbFormularVB077&>(form).pruefDaten(true);
 }
 
 // clang-format off
@@ -19,6 +26,8 @@ const Pruefung kPruefungen[] = {
     {"qbFormularBAV", "pruefDatenUK", &ruf<qbFormularBAV, &qbFormularBAV::pruefDatenUK>},
     {"qbFormularBAV", "pruefDatenPF", &ruf<qbFormularBAV, &qbFormularBAV::pruefDatenPF>},
     {"qbFormularBAV", "pruefDatenPK", &ruf<qbFormularBAV, &qbFormularBAV::pruefDatenPK>},
+    {"qbFormularKOLL", "pruefDaten", &ruf<qbFormularKOLL, &qbFormularKOLL::pruefDaten>},
+    {"qbFormularVB077", "pruefDaten(alle)", &rechercheVollstaendig},
 };
 // clang-format on
 

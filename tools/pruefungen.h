@@ -11,8 +11,8 @@ namespace qbtool {
 struct Pruefung {
     const char* klasse; // the class literal
     const char* name;   // the check's name in the library
-    // The message of the first rule that fails, in Windows-1252; "" when the form passes.
-    const char* (*pruefe)(const qbFormular& form);
+    // The message of the check, in Windows-1252; "" when the form passes.
+    RWCString (*pruefe)(const qbFormular& form);
 };
 
 // The checks of a class in the order they run; empty for a class without checks.

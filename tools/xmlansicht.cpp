@@ -5,6 +5,7 @@
 #include "core/qbKlassen.h"
 
 #include <cmath>
+#include <utility>
 
 namespace qbtool {
 
@@ -51,8 +52,24 @@ std::unique_ptr<CQBXMLdata> gespeicherteFelder(const qbFormular& form) {
         case qbArt::Date:
             knoten->List(CQBXMLdata(z.name, form.*z.mitglied.datum));
             break;
-        case qbArt::Person:
+        case qbArt::Person: { // a node of its own: the person's record, text by text
+            const qbPerson& p = form.*z.mitglied.person;
+            const qbAdressDaten& a = p.RefAdressDaten();
+            CQBXMLdata person("");
+            person.clear(z.name);
+            const std::pair<const char*, const RWCString*> texte[] = {
+                {"GebDat", &p.RefGebDat()},   {"Geschlecht", &p.RefGeschlecht()},
+                {"Beruf", &p.RefBeruf()},     {"Anrede", &a.RefAnrede()},
+                {"Titel", &a.RefTitel()},     {"Vorname", &a.RefVorname()},
+                {"Name", &a.RefName()},       {"Strasse", &a.RefStrasse()},
+                {"PLZ", &a.RefPLZ()},         {"Ort", &a.RefOrt()},
+                {"Land", &a.RefLand()},       {"Telefon", &a.RefTelefon()},
+                {"Telefax", &a.RefTelefax()}, {"EMail", &a.RefEMail()}};
+            for (const auto& [name, text] : texte)
+                person.List(CQBXMLdata(name, *text));
+            knoten->add(std::move(person));
             break;
+        }
         }
     }
     return knoten;

@@ -18,9 +18,9 @@ namespace qbtool {
 // The node of one form from its class's own XMLgetDat (its full content, unlike the list's XMLgetDat).
 CQBXMLdata formularKnoten(const qbFormular& form);
 
-// For a form whose class has no XML of its own (its field table carries no keys, so its XMLgetDat gives
-// the header alone): its own fields as stored, one entry per row of its table under the row's name, for
-// people. Null for every other form.
+// For a form whose class keeps all its own fields out of XML (its field table carries no keys, so its
+// XMLgetDat gives the header alone: GS004, AU523): its own fields as stored, one entry per row of its table
+// under the row's name, a person as a node of its own, for people. Null for every other form.
 std::unique_ptr<CQBXMLdata> gespeicherteFelder(const qbFormular& form);
 
 // The application as one tree, shaped like the list's own XMLgetDat: a "qbFormularListe" node with the

@@ -1,6 +1,8 @@
 // check: every check the stored forms offer, per form with piece, person and message, and the exit code.
 #include "anwendungen.h"
 
+#include "clerical/qbFormularKOLL.h"
+#include "clerical/qbFormularVB077.h"
 #include "pension/qbFormularBAV.h"
 
 #include <nlohmann/json.hpp>
@@ -88,3 +90,31 @@ TEST_F(ToolCheck, UnreadableFileIsBadInput) {
 }
 
 } // namespace
+
+// The group tariff clause and the research report join with their own checks.
+TEST_F(ToolCheck, GroupTariffClauseAndResearchReportPrintTheirMessages) {
+    qbFormularListe a = beispielAntrag();
+    qbFormularKOLL koll;
+    koll.RefMitgliedsnummer("M 17");
+    a.neuesFormular(koll);
+    qbFormularVB077 bericht;
+    a.neuesFormular(bericht);
+    const std::string datei = ordner / "klausel.qbf";
+    speichere(a, datei);
+    const Lauf lauf = qbformul({"check", "--format", "json", datei});
+    EXPECT_EQ(lauf.code, 1) << lauf.err;
+    const auto json = nlohmann::json::parse(lauf.aus);
+    ASSERT_EQ(json[0]["checks"].size(), 2u) << lauf.aus;
+    EXPECT_EQ(json[0]["checks"][0]["class"], "qbFormularKOLL");
+    EXPECT_EQ(json[0]["checks"][0]["message"], "Mindestens ein Haken muss gesetzt werden.");
+    EXPECT_EQ(json[0]["checks"][1]["class"], "qbFormularVB077");
+    EXPECT_EQ(json[0]["checks"][1]["check"], "pruefDaten(alle)");
+    const std::string meldung = json[0]["checks"][1]["message"];
+    EXPECT_EQ(meldung.rfind("Seite 1:\n  Name der FD\n  Name der BD\n", 0), 0u) << meldung;
+    EXPECT_TRUE(enthaelt(meldung, "  Weitere Versicherungsverträge ja/nein\n\nSeite 2:\n  Zweck der LV\n"))
+        << meldung;
+
+    const Lauf text = qbformul({"check", datei});
+    EXPECT_TRUE(enthaelt(text.aus, "Mindestens ein Haken muss gesetzt werden.")) << text.aus;
+    EXPECT_TRUE(enthaelt(text.aus, "pruefDaten(alle)")) << text.aus;
+}

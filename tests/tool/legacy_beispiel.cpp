@@ -2,6 +2,9 @@
 
 #include "legacy_fixture.h"
 
+#include "clerical/qbFormularAU523.h"
+#include "clerical/qbFormularL300.h"
+#include "clerical/qbFormularVB077.h"
 #include "core/qbKlassen.h"
 #include "health/qbFormularL134.h"
 #include "health/qbFormularL138.h"
@@ -1402,6 +1405,57 @@ AltSatz gn056Von(const std::string& kopf, const std::string& zweite) {
     return s;
 }
 
+// L300 as its version's layout holds it; the version is tested for equality, so any other version, a later
+// one too, reads the oldest layout of nine fields.
+AltSatz l300Von(const std::string& version) {
+    const int k = std::atoi((version.substr(3, 4) + version.substr(0, 2)).c_str());
+    const bool ab200210 = k == 200210 || k == 200304 || k == 200908;
+    const bool ab200304 = k == 200304 || k == 200908;
+    AltSatz s = AltSatz::kopf(version, "L300", "Geldw\xE4schegesetz", 1, "VN").text("Muster");
+    if (ab200304) s.text("Maria");
+    s.text("15011975");
+    if (ab200210) s.text("Regensburg");
+    if (ab200304) s.text("deutsch");
+    s.flag(1).text("L01X00T47").text("Stadt Regensburg").text("").flag(0).text("").text("");
+    if (k == 200908) s.flag(0).flag(1);
+    return s;
+}
+
+// The research report before 06.2003: without BerufEhepartnerVN, FD, BD and AuslaendischerAntragstellerJN.
+AltSatz vb077Von2003() {
+    AltSatz s = AltSatz::kopf("01.2003", "VB077", "Recherchebericht zum LV-Antrag", 1, "VN");
+    s.text("Regensburg").text("0941 123456").text("verheiratet").ganz(2).ganz(3200).ganz(900);
+    s.text("Schreiner").text("Holzbau Huber").text("gut").text("Stadtrand").text("Eigentumswohnung").flag(1);
+    const char* const arten[] = {"PHV",     "Rechtsschutz", "Hausrat", "Kfz", "Unfall",
+                                 "Kranken", "Leben",        "",        ""};
+    for (int i = 0; i < 9; ++i)
+        s.flag(i == 0 ? 1 : 0xff)
+            .text(arten[i])
+            .text(i == 0 ? "Allianz" : "")
+            .text(i == 0 ? "80 EUR" : "")
+            .text(i == 0 ? "2001" : "")
+            .text(i == 0 ? "2011" : "");
+    s.text("Altersvorsorge").text("").flag(0).text("").text("").text("ohne Befund").text("").flag(1);
+    return s.text("seit 1995 im Beruf")
+        .text("")
+        .text("")
+        .text("")
+        .text("")
+        .text("Meier")
+        .text("Hans")
+        .text("4711");
+}
+
+// The supplement of 07.2004: a restored record keeps its version, as the stamp of its save never took.
+AltSatz au523Von2004() {
+    AltSatz s = AltSatz::kopf("07.2004", "AU523", "Beiblatt ProAktiv", 1, "VP1");
+    s.text("15011975").text("w").text("Lehrerin");
+    s.text("Frau").text("").text("Maria").text("Muster").text("Hauptstr. 1").text("93047").text("Regensburg");
+    s.text("D").text("0941 1").text("").text("").text("Ehefrau");
+    s.text("03032002").text("m").text("").texte(11).text("Sohn");
+    return s;
+}
+
 } // namespace
 
 std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
@@ -1446,6 +1500,12 @@ std::vector<std::pair<unsigned short, AltSatz>> legacyBeispielSaetze() {
         {qbFormularGS004BUZ::classIsA(), gs004BUZVon("12.2003")},
         {qbFormularGS004LV::classIsA(), gs004LVVon2003()},
         {qbFormularGS004UZ::classIsA(), gs004UZVon2003()},
+        {qbFormularL300::classIsA(), l300Von("10.1999")},
+        {qbFormularL300::classIsA(), l300Von("10.2002")},
+        {qbFormularL300::classIsA(), l300Von("04.2003")},
+        {qbFormularL300::classIsA(), l300Von("09.2009")},
+        {qbFormularVB077::classIsA(), vb077Von2003()},
+        {qbFormularAU523::classIsA(), au523Von2004()},
     };
 }
 
