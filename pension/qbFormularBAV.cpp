@@ -27,11 +27,7 @@ long qbFormularBAV::versionsSchluessel(const RWCString& version) {
 // ---- Streams
 
 // The stamp, the header and every field, whatever the record was read from; no value of the old layouts.
-void qbFormularBAV::saveGuts(RWFile& f) const {
-    stempele(qbKlassen[qbIndex_qbFormularBAV].version);
-    qbFormular::saveGuts(f);
-    schreibeEigene(f);
-}
+QB_FORMULAR_SPEICHERN_DATEI(qbFormularBAV)
 
 // Records up to 10.2006 begin with eight texts and hold a Double after DVSonderZahlungPA; before 08.2003 a
 // Char stood before ZusageDatum; 10.2006 ends with a Text, a Date and a Char. The fields came with 12.2002,
